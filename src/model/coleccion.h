@@ -1,0 +1,84 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <deque>
+#include <optional>
+
+namespace bosquel {
+
+/// The elements of one kind by their index. Slot 0 always exists and is the kind's model; real elements start
+/// at 1. An element that is removed leaves a hole, and no index is used again until the drawing is emptied.
+/// References to elements stay good while others come and go.
+template <class T>
+class Coleccion {
+  public:
+    Coleccion() : huecos_(1, T{}) {}
+
+    /// The index that the next element gets; for stairs the last one given. 16 bits, never falls.
+    std::int16_t contador = 1;
+
+    T& modelo() { return *huecos_.front(); }
+    const T& modelo() const { return *huecos_.front(); }
+
+    /// The element at `indice`, or nullptr for a hole.
+    T* en(int indice) { return existe(indice) ? &*huecos_[posicion(indice)] : nullptr; }
+    const T* en(int indice) const { return existe(indice) ? &*huecos_[posicion(indice)] : nullptr; }
+
+    bool existe(int indice) const {
+        return indice >= 0 && posicion(indice) < huecos_.size() && huecos_[posicion(indice)].has_value();
+    }
+
+    /// A copy of the model at `indice` (1 or more), in the place of what may stand there.
+    T& crear(int indice) {
+        if (posicion(indice) >= huecos_.size()) huecos_.resize(posicion(indice) + 1);
+        return huecos_[posicion(indice)].emplace(modelo());
+    }
+
+    /// Leaves a hole; the model stays.
+    void quitar(int indice) {
+        if (indice > 0 && existe(indice)) huecos_[posicion(indice)].reset();
+    }
+
+    /// The highest index that holds an element; 0 if only the model is there.
+    int ultimo() const {
+        for (auto i = huecos_.size() - 1; i > 0; --i)
+            if (huecos_[i]) return static_cast<int>(i);
+        return 0;
+    }
+
+    /// Calls `paso(indice, elemento)` for all that exist from `desde` to `hasta`, both included, in rising
+    /// order. The pass may remove elements, and create them beyond `hasta`.
+    template <class Paso>
+    void recorrer(int desde, int hasta, Paso paso) {
+        recorrerEn(*this, desde, hasta, paso);
+    }
+    template <class Paso>
+    void recorrer(int desde, int hasta, Paso paso) const {
+        recorrerEn(*this, desde, hasta, paso);
+    }
+
+    /// All real elements, whatever the counter says.
+    template <class Paso>
+    void recorrer(Paso paso) {
+        recorrerEn(*this, 1, static_cast<int>(huecos_.size()) - 1, paso);
+    }
+    template <class Paso>
+    void recorrer(Paso paso) const {
+        recorrerEn(*this, 1, static_cast<int>(huecos_.size()) - 1, paso);
+    }
+
+  private:
+    static std::size_t posicion(int indice) { return static_cast<std::size_t>(indice); }
+
+    template <class Propia, class Paso>
+    static void recorrerEn(Propia& propia, int desde, int hasta, Paso& paso) {
+        const int fin = std::min(hasta, static_cast<int>(propia.huecos_.size()) - 1);
+        for (int i = std::max(desde, 0); i <= fin; ++i)
+            if (auto* elemento = propia.en(i)) paso(i, *elemento);
+    }
+
+    std::deque<std::optional<T>> huecos_;
+};
+
+}  // namespace bosquel

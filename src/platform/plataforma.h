@@ -1,0 +1,79 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "model/geometria.h"
+#include "model/modos.h"
+#include "model/zona.h"
+
+namespace bosquel {
+
+class Entrada;
+class Opciones;
+class Paralelas;
+class ParedProp;
+
+enum class Icono : std::uint8_t { informacion, pregunta };
+enum class Botones : std::uint8_t { aceptar, siNo, siNoCancelar };
+enum class Respuesta : std::uint8_t { aceptar, si, no, cancelar };
+
+/// A message box: what it is called, what it says, and what can be answered. Closing it answers no, or
+/// cancel where there is one.
+struct Mensaje {
+    std::string titulo;
+    std::string texto;
+    Icono icono = Icono::informacion;
+    Botones botones = Botones::aceptar;
+};
+
+/// A file dialog. Neither form asks before overwriting, nor demands that an opened file exist.
+struct PeticionArchivo {
+    enum class Modo : std::uint8_t { abrir, guardar };
+    Modo modo = Modo::abrir;
+    std::string filtro;  ///< "Dibujos Bosquel Rapiz(*.bqr)"
+    std::filesystem::path carpeta;
+};
+
+enum class Reloj : std::uint8_t { tmrAutoSave };
+
+/// The one way out of the core: everything that it asks of the world of windows. Dialogs are given as the
+/// core's own half of them and come back when they are closed.
+class Plataforma {
+  public:
+    Plataforma() = default;
+    Plataforma(const Plataforma&) = delete;
+    Plataforma& operator=(const Plataforma&) = delete;
+    virtual ~Plataforma() = default;
+
+    virtual Respuesta mensaje(const Mensaje& mensaje) = 0;
+    virtual void mostrar(Entrada& dialogo) = 0;
+    virtual void mostrar(Opciones& dialogo) = 0;
+    virtual void mostrar(Paralelas& dialogo) = 0;
+    virtual void mostrar(ParedProp& dialogo) = 0;
+
+    /// The chosen path, as it was typed; nothing if the user cancels.
+    virtual std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) = 0;
+
+    /// Gives other events a turn. A wait loop calls it again and again: it must neither block for long nor
+    /// return at once with nothing done.
+    virtual void cederEventos() = 0;
+    virtual void activar(Reloj reloj, bool activo) = 0;
+
+    virtual void ponerCursor(Cursor cursor) = 0;
+    virtual void ponerRelojDeArena(bool puesto) = 0;
+    virtual void ponerTitulo(const std::string& titulo) = 0;
+
+    /// The sheet or the ruler moved or changed in size, a scroll bar, a button's border, the palette or the
+    /// mode changed: whatever stands around the drawing is to be shown anew.
+    virtual void vistaCambiada() = 0;
+    /// These parts of the sheet are to be painted again.
+    virtual void repintar(const ZonaSucia& zona) = 0;
+
+    /// Ends the program at once.
+    virtual void terminar() = 0;
+};
+
+}  // namespace bosquel
