@@ -41,7 +41,8 @@ constexpr std::array<DatosClase, numeroDeClases> tabla{{
 
 constexpr auto enOrdenDeEliminar = [] {
     std::array<Clase, numeroDeClases> orden{};
-    for (std::size_t i = 0; i < numeroDeClases; ++i) orden[i] = tabla[i].clase;
+    for (std::size_t i = 0; i < numeroDeClases; ++i)
+        orden[i] = tabla[i].clase;
     const auto pared = std::find(orden.begin(), orden.end(), Pared);
     std::rotate(pared, pared + 1, pared + 3);
     return orden;
@@ -59,12 +60,20 @@ constexpr auto enOrdenDeContadores = [] {
 
 }  // namespace
 
-const DatosClase& datos(Clase clase) { return tabla[static_cast<std::size_t>(clase)]; }
+const DatosClase& datos(Clase clase) {
+    return tabla[static_cast<std::size_t>(clase)];
+}
 
-const std::array<DatosClase, numeroDeClases>& todasLasClases() { return tabla; }
+const std::array<DatosClase, numeroDeClases>& todasLasClases() {
+    return tabla;
+}
 
-const std::array<Clase, numeroDeClases>& ordenDeEliminar() { return enOrdenDeEliminar; }
+const std::array<Clase, numeroDeClases>& ordenDeEliminar() {
+    return enOrdenDeEliminar;
+}
 
-const std::array<Clase, numeroDeClases + 1>& ordenDeContadores() { return enOrdenDeContadores; }
+const std::array<Clase, numeroDeClases + 1>& ordenDeContadores() {
+    return enOrdenDeContadores;
+}
 
 }  // namespace bosquel

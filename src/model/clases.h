@@ -53,9 +53,9 @@ struct DatosClase {
     int boton;
     std::string_view dialogo;  ///< the form that edits it; empty if there is none
     DobleClic dobleClic;
-    int desdeZoom;              ///< first index of the zoom pass: 0 where the model is kept in step
-    bool zoomConContador;       ///< the zoom pass takes the counter's own index in
-    bool eliminarConContador;   ///< so does the pass that empties the drawing
+    int desdeZoom;             ///< first index of the zoom pass: 0 where the model is kept in step
+    bool zoomConContador;      ///< the zoom pass takes the counter's own index in
+    bool eliminarConContador;  ///< so does the pass that empties the drawing
 };
 
 const DatosClase& datos(Clase clase);

@@ -11,10 +11,10 @@ inline constexpr Color colorTextoVentana = -2147483640;  ///< the default of str
 inline constexpr Color colorFondoVentana = -2147483643;  ///< the default of fills: white on every desktop
 
 inline constexpr Color negro = 0x000000;
-inline constexpr Color blanco = 0xFFFFFF;       ///< a grip at rest
-inline constexpr Color rojo = 0x0000FF;         ///< a grip of the selected element
+inline constexpr Color blanco = 0xFFFFFF;        ///< a grip at rest
+inline constexpr Color rojo = 0x0000FF;          ///< a grip of the selected element
 inline constexpr Color verdeAzulado = 0xC0C000;  ///< a grip under the pointer: 12632064
-inline constexpr Color azulOscuro = 0x800000;   ///< a dial at rest
+inline constexpr Color azulOscuro = 0x800000;    ///< a dial at rest
 inline constexpr Color colorCuadricula = 0xFFF0F0;
 
 /// The plain RGB of a colour: paper is paper, so the system's text is black and its ground is white, and so

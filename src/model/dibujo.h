@@ -1,14 +1,14 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
-#include <string>
-
 #include "model/clases.h"
 #include "model/coleccion.h"
 #include "model/elementos.h"
 #include "model/modos.h"
 #include "model/zona.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
 
 namespace bosquel {
 
@@ -83,7 +83,8 @@ struct Dibujo {
 
     Arrastre arrastre;
     HojaDibujo Hoja;
-    ZonaSucia sucia;
+    ZonaSucia sucia;                               ///< where something at rest has changed
+    ZonaSucia paso;                                ///< where something that is being dragged was and is now
     std::int32_t ordenFrente = 0, ordenFondo = 0;  ///< the ends of the z-order, see `alFrente`
 };
 

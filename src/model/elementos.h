@@ -1,17 +1,18 @@
 #pragma once
 
+#include "model/colores.h"
+#include "model/geometria.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
 
-#include "model/colores.h"
-#include "model/geometria.h"
-
 namespace bosquel {
 
-// The 24 kinds as plain records. Lengths are in millimetres, positions in sheet units (see docs/geometria.md),
-// angles in degrees. The values given here are those of the models, slot 0 of the collections, at the start
-// of the program. Texts that a file holds stay texts, since a file may hold any and keeps what it has.
+// The 24 kinds as plain records. Lengths are in millimetres, positions in sheet units (see
+// docs/geometria.md), angles in degrees. The values given here are those of the models, slot 0 of the
+// collections, at the start of the program. Texts that a file holds stay texts, since a file may hold any and
+// keeps what it has.
 
 inline constexpr const char* estadoNuevo = "Nuevo";      ///< until the element's dialog is first applied
 inline constexpr const char* estadoEdicion = "Edicion";  ///< ever after
@@ -138,6 +139,8 @@ struct Pared {
     std::int16_t Angulo = 0;
     double Longitud = 4000;
     Color LineColor = colorTextoVentana;
+
+    bool EnMovimiento = false;  ///< being dragged: painted over all that stands still
 
     std::array<Segmento, 4> lineas;
     Pinza ParedPick, ParedPickBIS, ParedPickCentro;  ///< at the start, at the end, in the middle

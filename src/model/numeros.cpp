@@ -23,12 +23,20 @@ void asignarEntero(Entero& destino, double valor) {
 
 }  // namespace
 
-double redondear(double valor) { return std::nearbyint(valor); }
+double redondear(double valor) {
+    return std::nearbyint(valor);
+}
 
-double truncar(double valor) { return std::trunc(valor); }
+double truncar(double valor) {
+    return std::trunc(valor);
+}
 
-std::optional<std::int16_t> entero16(double valor) { return entero<std::int16_t>(valor); }
-std::optional<std::int32_t> entero32(double valor) { return entero<std::int32_t>(valor); }
+std::optional<std::int16_t> entero16(double valor) {
+    return entero<std::int16_t>(valor);
+}
+std::optional<std::int32_t> entero32(double valor) {
+    return entero<std::int32_t>(valor);
+}
 
 float simple(double valor) {
     constexpr double maximo = std::numeric_limits<float>::max();
@@ -44,8 +52,12 @@ void asignar(double& destino, double valor) {
     if (std::isfinite(valor)) destino = valor;
 }
 
-void asignar(std::int16_t& destino, double valor) { asignarEntero(destino, valor); }
-void asignar(std::int32_t& destino, double valor) { asignarEntero(destino, valor); }
+void asignar(std::int16_t& destino, double valor) {
+    asignarEntero(destino, valor);
+}
+void asignar(std::int32_t& destino, double valor) {
+    asignarEntero(destino, valor);
+}
 
 void avanzar(std::int16_t& contador) {
     if (contador < std::numeric_limits<std::int16_t>::max()) ++contador;

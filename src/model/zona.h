@@ -1,10 +1,10 @@
 #pragma once
 
+#include "model/geometria.h"
+
 #include <optional>
 #include <utility>
 #include <vector>
-
-#include "model/geometria.h"
 
 namespace bosquel {
 

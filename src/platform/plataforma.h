@@ -1,19 +1,18 @@
 #pragma once
 
+#include "model/geometria.h"
+#include "model/modos.h"
+#include "model/zona.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
 
-#include "model/geometria.h"
-#include "model/modos.h"
-#include "model/zona.h"
-
 namespace bosquel {
 
 class Entrada;
 class Opciones;
-class Paralelas;
 class ParedProp;
 
 enum class Icono : std::uint8_t { informacion, pregunta };
@@ -51,7 +50,6 @@ class Plataforma {
     virtual Respuesta mensaje(const Mensaje& mensaje) = 0;
     virtual void mostrar(Entrada& dialogo) = 0;
     virtual void mostrar(Opciones& dialogo) = 0;
-    virtual void mostrar(Paralelas& dialogo) = 0;
     virtual void mostrar(ParedProp& dialogo) = 0;
 
     /// The chosen path, as it was typed; nothing if the user cancels.
@@ -69,8 +67,9 @@ class Plataforma {
     /// The sheet or the ruler moved or changed in size, a scroll bar, a button's border, the palette or the
     /// mode changed: whatever stands around the drawing is to be shown anew.
     virtual void vistaCambiada() = 0;
-    /// These parts of the sheet are to be painted again.
-    virtual void repintar(const ZonaSucia& zona) = 0;
+    /// These parts of the sheet are to be painted again: where something at rest has changed, and where what
+    /// is being dragged was and is now.
+    virtual void repintar(const ZonaSucia& zona, const ZonaSucia& paso) = 0;
 
     /// Ends the program at once.
     virtual void terminar() = 0;

@@ -1,0 +1,93 @@
+#include "drawing/archivo.h"
+
+#include "drawing/seleccion.h"
+#include "drawing/vista.h"
+#include "persistence/archivo_dibujo.h"
+#include "persistence/perfiles.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace bosquel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* filtro = "Dibujos Bosquel Rapiz(*.bqr)";
+
+/// The directory search: only a file is found.
+bool existe(const fs::path& ruta) {
+    std::error_code error;
+    return fs::is_regular_file(ruta, error);
+}
+
+std::string titulo(const fs::path& ruta) {
+    return (existe(ruta) ? ruta.filename().string() : std::string{}) + " - Bosquel Rapiz";
+}
+
+std::optional<fs::path> elegir(Sesion& sesion, PeticionArchivo::Modo modo, const char* extension) {
+    publicar(sesion);
+    auto ruta = sesion.plataforma.elegirArchivo({modo, filtro, sesion.carpeta / carpetaDibujos});
+    if (ruta && ruta->filename().string().find('.') == std::string::npos)
+        *ruta += std::string(".") + extension;
+    return ruta;
+}
+
+/// The old file goes first, silently, however long that takes.
+void borrarAnterior(Sesion& sesion, const fs::path& ruta) {
+    while (existe(ruta)) {
+        std::error_code error;
+        fs::remove(ruta, error);
+        cederEventos(sesion);
+    }
+}
+
+/// By name and not by origin: a drawing that the user saves under that name goes unannounced too.
+bool esAutoSave(const fs::path& ruta) {
+    const auto enMinusculas = [](std::string texto) {
+        std::transform(texto.begin(), texto.end(), texto.begin(),
+                       [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+        return texto;
+    };
+    return enMinusculas(ruta.string()).find(enMinusculas(ficheroAutoSave)) != std::string::npos;
+}
+
+void escribir(const Sesion& sesion, const fs::path& ruta) {
+    ArchivoPerfil archivo(ruta);
+    escribirDibujo(archivo, sesion.dibujo);
+    archivo.volcar();
+}
+
+}  // namespace
+
+void GuardarDibujo(Sesion& sesion, fs::path Ruta) {
+    if (Ruta.empty()) {
+        const auto elegida = elegir(sesion, PeticionArchivo::Modo::guardar, "bqr");
+        if (!elegida) return;
+        Ruta = *elegida;
+    }
+    borrarAnterior(sesion, Ruta);
+    sesion.plataforma.ponerRelojDeArena(true);
+    escribir(sesion, Ruta);
+    if (!esAutoSave(Ruta)) sesion.plataforma.ponerTitulo(titulo(Ruta));
+    sesion.plataforma.ponerRelojDeArena(false);
+    if (!esAutoSave(Ruta)) preguntar(sesion, {.titulo = "Aviso", .texto = "Dibujo guardado con éxito"});
+}
+
+void AbrirDibujo(Sesion& sesion) {
+    const auto ruta = elegir(sesion, PeticionArchivo::Modo::abrir, "bkr");
+    if (!ruta) return;
+    EliminarTodos(sesion);
+    ResetearDibujo(sesion);
+    const ArchivoPerfil archivo(*ruta);
+    leerCabecera(archivo, sesion.dibujo);
+    ActualizarBarras(sesion);
+    sesion.regla.FactorZoom = sesion.dibujo.FactorZoomActual;
+    if (sesion.dibujo.VerCuadricula) DibujarCuadricula(sesion);
+    leerElementos(archivo, sesion.dibujo);
+    sesion.dibujo.sucia.anadirTodo();
+    sesion.plataforma.ponerTitulo(titulo(*ruta));
+}
+
+}  // namespace bosquel

@@ -1,0 +1,63 @@
+#include "drawing/paletas.h"
+
+#include "drawing/archivo.h"
+#include "model/numeros.h"
+
+namespace bosquel {
+
+namespace {
+
+struct PaletaDeTipo {
+    int boton;
+    Paleta paleta;
+    std::string_view Letrero;
+};
+
+constexpr std::array<PaletaDeTipo, 5> paletas{{{0, Paleta::FrMuebles, "Muebles"},
+                                               {1, Paleta::FrBaño, "Baño"},
+                                               {2, Paleta::FrCocina, "Cocina"},
+                                               {3, Paleta::FrUsuario, "Divisiones"},
+                                               {5, Paleta::FrElectrico, "Sistema Eléctrico"}}};
+
+constexpr std::array<const char*, 3> tiposDePared{"Muro", "Tabique", "Pilar"};
+constexpr double ladoPilar = 300;  // mm
+
+/// A wall without a place: it waits for the release that gives it one.
+void crearPared(Sesion& sesion, const char* tipo) {
+    Dibujo& dibujo = sesion.dibujo;
+    Pared& pared = dibujo.Pared.crear(dibujo.Pared.contador);
+    pared.Tipo = tipo;
+    if (pared.Tipo == "Pilar") {
+        pared.AnchoMuro = ladoPilar;
+        pared.AnchoTabique = ladoPilar;
+        pared.Longitud = ladoPilar;
+    }
+    pared.NumeroGrupo = 0;
+    pared.Estado = estadoNuevo;
+    avanzar(dibujo.Pared.contador);
+    dibujo.ModoActual = Modo::Pared;
+    sesion.plataforma.ponerCursor(Cursor::IcoPared);
+    sesion.vistaSucia = true;
+}
+
+}  // namespace
+
+void pulsarTipo(Sesion& sesion, int indice) {
+    CheckAutoSaving(sesion, true);
+    for (const PaletaDeTipo& fila : paletas)
+        if (fila.boton == indice) {
+            sesion.paleta = fila.paleta;
+            sesion.Letrero = fila.Letrero;
+        }
+    sesion.vistaSucia = true;
+    CheckAutoSaving(sesion, false);
+}
+
+void pulsarUsuario(Sesion& sesion, int indice) {
+    CheckAutoSaving(sesion, true);
+    if (indice >= 0 && static_cast<std::size_t>(indice) < tiposDePared.size())
+        crearPared(sesion, tiposDePared[static_cast<std::size_t>(indice)]);
+    CheckAutoSaving(sesion, false);
+}
+
+}  // namespace bosquel

@@ -1,0 +1,99 @@
+#include "drawing/seleccion.h"
+
+#include "model/numeros.h"
+#include "walls/grupos.h"
+#include "walls/pared.h"
+#include "walls/pared_prop.h"
+
+namespace bosquel {
+
+namespace {
+
+Respuesta preguntarPorElGrupo(Sesion& sesion) {
+    return preguntar(sesion, {.titulo = "Eliminar Pared",
+                              .texto = "La última pared seleccionada pertenece a un grupo\n\n"
+                                       "¿ Desea eliminar todas las paredes del grupo ?",
+                              .icono = Icono::pregunta,
+                              .botones = Botones::siNoCancelar});
+}
+
+Respuesta preguntarSiDesagrupa(Sesion& sesion) {
+    return preguntar(sesion,
+                     {.titulo = "Aviso",
+                      .texto = "Esta pared pertenece a un grupo y no puede ser editada. Si quiere hacer "
+                               "modificaciones en la misma primero debe desagruparla.\n"
+                               "¿Desea desagruparla ahora?",
+                      .icono = Icono::pregunta,
+                      .botones = Botones::siNo});
+}
+
+void eliminarGrupo(Dibujo& dibujo, std::int16_t grupo) {
+    dibujo.Pared.recorrer([&](int i, const Pared& pared) {
+        if (pared.NumeroGrupo == grupo) EliminaPared(dibujo, i);
+    });
+}
+
+void eliminarPared(Sesion& sesion, int indice, bool forzar) {
+    Dibujo& dibujo = sesion.dibujo;
+    const Pared* pared = indice > 0 ? dibujo.Pared.en(indice) : nullptr;
+    if (!pared) return;
+    // Kept before the first removal, which may set the wall free.
+    const std::int16_t grupo = pared->NumeroGrupo;
+    const Respuesta respuesta = forzar || grupo == 0 ? Respuesta::no : preguntarPorElGrupo(sesion);
+    if (respuesta == Respuesta::no) EliminaPared(dibujo, indice);
+    if (respuesta == Respuesta::si) eliminarGrupo(dibujo, grupo);
+}
+
+}  // namespace
+
+void QuitarSeleccion(Dibujo& dibujo) {
+    if (dibujo.ElementoActual == Clase::Pared) DeseleccionaPared(dibujo, dibujo.ParedBajoPuntero);
+}
+
+void MostrarPropiedades(Sesion& sesion) {
+    if (sesion.dibujo.ElementoActual == Clase::Pared) AbreParedProp(sesion, sesion.dibujo.IndiceActual);
+}
+
+void EliminarElemento(Sesion& sesion, bool Forzar) {
+    Dibujo& dibujo = sesion.dibujo;
+    const auto clase = dibujo.ElementoActual;
+    const int indice = dibujo.IndiceActual;
+    if (!clase) return;
+    if (clase == Clase::Pared)
+        eliminarPared(sesion, indice, Forzar);
+    else if (clase == Clase::Ventana)
+        EliminaVentana(dibujo, indice);
+    else if (clase == Clase::Puerta)
+        EliminaPuerta(dibujo, indice);
+    else
+        conColeccion(dibujo, *clase, [&](auto& coleccion) { coleccion.quitar(indice); });
+}
+
+void EliminarTodos(Sesion& sesion) {
+    Dibujo& dibujo = sesion.dibujo;
+    dibujo.sucia.anadirTodo();
+    for (const Clase clase : ordenDeEliminar()) {
+        const int contador =
+            conColeccion(dibujo, clase, [](const auto& coleccion) { return coleccion.contador; });
+        const int hasta = contador - (datos(clase).eliminarConContador ? 0 : 1);
+        for (int i = 1; i <= hasta; ++i) {
+            dibujo.ElementoActual = clase;
+            asignar(dibujo.IndiceActual, i);
+            EliminarElemento(sesion, clase == Clase::Pared);
+        }
+    }
+}
+
+void AbreParedProp(Sesion& sesion, int indice) {
+    Pared* pared = sesion.dibujo.Pared.en(indice);
+    if (!pared || indice == 0) return;
+    if (pared->NumeroGrupo != 0) {
+        if (preguntarSiDesagrupa(sesion) != Respuesta::si) return;
+        pared->NumeroGrupo = 0;
+        EliminaAberturasPared(sesion.dibujo, indice);
+    }
+    ParedProp dialogo(sesion.dibujo, indice);
+    mostrar(sesion, dialogo);
+}
+
+}  // namespace bosquel

@@ -1,0 +1,33 @@
+#include "drawing/sesion.h"
+
+namespace bosquel {
+
+void publicar(Sesion& sesion) {
+    if (sesion.vistaSucia) {
+        sesion.vistaSucia = false;
+        sesion.plataforma.vistaCambiada();
+    }
+    Dibujo& dibujo = sesion.dibujo;
+    if (dibujo.sucia.limpia() && dibujo.paso.limpia()) return;
+    sesion.plataforma.repintar(dibujo.sucia, dibujo.paso);
+    dibujo.sucia.vaciar();
+    dibujo.paso.vaciar();
+}
+
+void cederEventos(Sesion& sesion) {
+    publicar(sesion);
+    sesion.plataforma.cederEventos();
+}
+
+Respuesta preguntar(Sesion& sesion, const Mensaje& mensaje) {
+    publicar(sesion);
+    return sesion.plataforma.mensaje(mensaje);
+}
+
+void volverAlAspa(Sesion& sesion) {
+    sesion.dibujo.ModoActual = Modo::Aspa;
+    sesion.plataforma.ponerCursor(Cursor::Cruz);
+    sesion.vistaSucia = true;
+}
+
+}  // namespace bosquel

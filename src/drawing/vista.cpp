@@ -1,0 +1,82 @@
+#include "drawing/vista.h"
+
+#include "drawing/regla.h"
+#include "model/numeros.h"
+
+#include <cmath>
+
+namespace bosquel {
+
+namespace {
+
+void actualizarBarra(Barra& barra, float& lugar, double hoja, double visor) {
+    const double holgura = hoja - visor;
+    barra.activa = hoja > visor && holgura >= std::abs(lugar);
+    if (barra.activa)
+        asignar(barra.valor, std::abs(lugar) * 100.0 / holgura);
+    else
+        lugar = 0;
+}
+
+void mover(float& lugar, double hoja, double visor, int valor) {
+    asignar(lugar, -((hoja - visor) * valor / 100));
+}
+
+}  // namespace
+
+void ActualizarBarras(Sesion& sesion) {
+    HojaDibujo& hoja = sesion.dibujo.Hoja;
+    actualizarBarra(sesion.HScroll1, hoja.Left, hoja.Width, sesion.visorAncho);
+    actualizarBarra(sesion.VScroll1, hoja.Top, hoja.Height, sesion.visorAlto);
+    sesion.vistaSucia = true;
+}
+
+void CambiarHScroll1(Sesion& sesion, int valor) {
+    sesion.HScroll1.valor = valor;
+    mover(sesion.dibujo.Hoja.Left, sesion.dibujo.Hoja.Width, sesion.visorAncho, valor);
+    sesion.vistaSucia = true;
+}
+
+void CambiarVScroll1(Sesion& sesion, int valor) {
+    sesion.VScroll1.valor = valor;
+    mover(sesion.dibujo.Hoja.Top, sesion.dibujo.Hoja.Height, sesion.visorAlto, valor);
+    sesion.vistaSucia = true;
+}
+
+void Redimensionar(Sesion& sesion, double ancho, double alto) {
+    sesion.visorAncho = ancho - margenAncho;
+    sesion.visorAlto = alto - margenAlto;
+    ActualizarBarras(sesion);
+    acoplarRegla(sesion);
+    sesion.regla.Visible = true;
+}
+
+void MedirHoja(Sesion& sesion) {
+    Dibujo& dibujo = sesion.dibujo;
+    asignar(dibujo.Hoja.Width, dibujo.AreaWidth * dibujo.FactorZoomActual);
+    asignar(dibujo.Hoja.Height, dibujo.AreaHight * dibujo.FactorZoomActual);
+    ActualizarBarras(sesion);
+}
+
+void DibujarCuadricula(Sesion& sesion) {
+    BorrarCuadricula(sesion);
+    cederEventos(sesion);
+    const Dibujo& dibujo = sesion.dibujo;
+    asignar(sesion.cuadricula.paso, dibujo.Cuadricula * dibujo.FactorZoomActual);
+    sesion.cuadricula.ancho = dibujo.Hoja.Width;
+    sesion.cuadricula.alto = dibujo.Hoja.Height;
+    sesion.dibujo.sucia.anadirTodo();
+}
+
+void BorrarCuadricula(Sesion& sesion) {
+    sesion.cuadricula = {};
+    sesion.dibujo.sucia.anadirTodo();
+}
+
+float ajustarACuadricula(const Dibujo& dibujo, float valor) {
+    const double paso = dibujo.FactorZoomActual * dibujo.Cuadricula;
+    asignar(valor, truncar(valor / paso) * paso);
+    return valor;
+}
+
+}  // namespace bosquel
