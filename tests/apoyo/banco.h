@@ -23,7 +23,7 @@ struct Muro {
     int angulo = 0;
     std::string longitud = "4,00";  ///< m
     std::string_view boton = "Muro";
-    std::string ancho;  ///< m; empty leaves what the dialog shows
+    std::string ancho = {};  ///< m; empty leaves what the dialog shows
 };
 
 /// A program at work in a folder of its own, and a user before it. All coordinates are sheet units of the
