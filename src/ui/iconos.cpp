@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QColor>
 #include <QFile>
+#include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPixmap>
@@ -74,7 +75,7 @@ class MotorIcono final : public QIconEngine {
         const auto grupo = modo == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         QColor trazo = opaco(paleta_, grupo, QPalette::WindowText);
         QColor acento = opaco(paleta_, grupo, QPalette::Highlight);
-        // Many desktops keep the highlight vivid when disabled: nearly all of the accent is taken off.
+        // Many desktops keep the highlight vivid when disabled: most of the accent is taken off.
         if (modo == QIcon::Disabled) acento = mezcla(acento, trazo, 0.3F);
         // On a selected row the highlight is the ground, where an accent of that colour would not be seen.
         if (modo == QIcon::Selected) trazo = acento = opaco(paleta_, grupo, QPalette::HighlightedText);
@@ -123,6 +124,9 @@ QCursor cursor(Cursor rol, qreal escala) {
     QSvgRenderer svg(leer(dibujo.nombre));
     svg.render(&pintor, QRectF(ajuste, ajuste, pixeles, pixeles));
     pintor.end();
+    // X11 takes the hot spot as pixels of the image, whatever its ratio: there both are given in pixels.
+    if (QGuiApplication::platformName() == QLatin1String("xcb"))
+        return QCursor(lienzo, qRound(dibujo.punta.x() * escala), qRound(dibujo.punta.y() * escala));
     lienzo.setDevicePixelRatio(escala);
     return QCursor(lienzo, dibujo.punta.x(), dibujo.punta.y());
 }
