@@ -15,7 +15,8 @@ bool idiomaEspanol();
 
 /// A number as the files hold it, under the locale's separator: at most 15 significant digits of a 64-bit
 /// real and 7 of a 32-bit one, no grouping, plain from 1E-5 up to below 1E+15 (1E+7 for 32 bits), with an
-/// exponent ("4,846634E-12") outside. Minus zero is "0". An infinite value or a NaN gives "0".
+/// exponent ("4,846634E-12") outside. An exact half rounds away from zero, as in the formats below. Minus
+/// zero is "0". An infinite value or a NaN gives "0".
 std::string textoReal(double valor);
 std::string textoReal(float valor);
 std::string textoEntero(std::int32_t valor);
@@ -35,7 +36,8 @@ std::optional<double> realTecleado(std::string_view texto);
 /// A number typed into a field that takes digits only: whatever "," and "." it shows are grouping.
 std::optional<double> enteroTecleado(std::string_view texto);
 
-/// "###,##0.00" and "###,##0" under the locale: thousands grouped, an exact half rounded away from zero.
+/// "###,##0.00" and "###,##0" under the locale: thousands grouped by the other one of "," and
+/// ".", an exact half rounded away from zero. What is no finite number gives the text of 0.
 std::string formatoMetros(double valor);
 std::string formatoEntero(double valor);
 

@@ -1,0 +1,312 @@
+#include "model/textos_numero.h"
+
+#include "apoyo/idioma.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+using namespace bosquel;
+using apoyo::Idioma;
+
+namespace {
+
+constexpr double infinito = std::numeric_limits<double>::infinity();
+constexpr double ninguno = std::numeric_limits<double>::quiet_NaN();
+
+}  // namespace
+
+TEST(SeparadorDecimal, SeLeeDelIdiomaEnCadaLlamada) {
+    const Idioma fuera(Idioma::ingles);
+    EXPECT_EQ(separadorDecimal(), '.');
+    EXPECT_FALSE(idiomaEspanol());
+    {
+        const Idioma dentro(Idioma::espanol);
+        EXPECT_EQ(separadorDecimal(), ',');
+        EXPECT_TRUE(idiomaEspanol());
+    }
+    EXPECT_EQ(separadorDecimal(), '.');
+    EXPECT_FALSE(idiomaEspanol());
+}
+
+TEST(TextoReal, LlevaElSeparadorDelIdioma) {
+    const Idioma idioma(Idioma::espanol);
+    EXPECT_EQ(textoReal(1234.5), "1234,5");
+    EXPECT_EQ(textoReal(-0.25), "-0,25");
+    EXPECT_EQ(textoReal(4.846634E-12F), "4,846634E-12");
+    const Idioma otro(Idioma::ingles);
+    EXPECT_EQ(textoReal(1234.5), "1234.5");
+    EXPECT_EQ(textoReal(4.846634E-12F), "4.846634E-12");
+}
+
+TEST(TextoReal, TieneQuinceCifrasOSieteSinCerosFinales) {
+    const Idioma idioma(Idioma::ingles);
+    EXPECT_EQ(textoReal(0.1), "0.1");
+    EXPECT_EQ(textoReal(0.1 + 0.2), "0.3");
+    EXPECT_EQ(textoReal(0.1F), "0.1");
+    EXPECT_EQ(textoReal(static_cast<double>(0.1F)), "0.100000001490116");
+    EXPECT_EQ(textoReal(1.0 / 3), "0.333333333333333");
+    EXPECT_EQ(textoReal(1.0F / 3), "0.3333333");
+    EXPECT_EQ(textoReal(2.0 / 3), "0.666666666666667");
+    EXPECT_EQ(textoReal(1500.0), "1500");
+    EXPECT_EQ(textoReal(3402.0F), "3402");
+}
+
+TEST(TextoReal, UnaMitadExactaSeAlejaDelCero) {
+    const Idioma idioma(Idioma::ingles);
+    EXPECT_EQ(textoReal(12345.625F), "12345.63");
+    EXPECT_EQ(textoReal(-12345.625F), "-12345.63");
+    EXPECT_EQ(textoReal(12345.375F), "12345.38");
+    EXPECT_EQ(textoReal(100000000000000.5), "100000000000001");
+}
+
+TEST(TextoReal, FueraDelIntervaloLlanoLlevaExponente) {
+    const Idioma idioma(Idioma::ingles);
+    EXPECT_EQ(textoReal(1E-5), "0.00001");
+    EXPECT_EQ(textoReal(1.25E-5), "0.0000125");
+    EXPECT_EQ(textoReal(9.99E-6), "9.99E-06");
+    EXPECT_EQ(textoReal(999999999999999.0), "999999999999999");
+    EXPECT_EQ(textoReal(1E+15), "1E+15");
+    EXPECT_EQ(textoReal(-1.5E+100), "-1.5E+100");
+    EXPECT_EQ(textoReal(9999999.0F), "9999999");
+    EXPECT_EQ(textoReal(1E+7F), "1E+07");
+    EXPECT_EQ(textoReal(16777216.0F), "1.677722E+07");
+    EXPECT_EQ(textoReal(std::numeric_limits<double>::max()), "1.79769313486232E+308");
+    EXPECT_EQ(textoReal(std::numeric_limits<double>::denorm_min()), "4.94065645841247E-324");
+    EXPECT_EQ(textoReal(std::numeric_limits<float>::denorm_min()), "1.401298E-45");
+}
+
+TEST(TextoReal, ElExponenteEsElDeDespuesDeRedondear) {
+    const Idioma idioma(Idioma::ingles);
+    EXPECT_EQ(textoReal(999999999999999.75), "1E+15");
+    EXPECT_EQ(textoReal(9.9999999999999999E-6), "0.00001");
+    EXPECT_EQ(textoReal(static_cast<float>(9.99999999E-6)), "0.00001");
+}
+
+TEST(TextoReal, ElCeroNoTieneSignoYLoNoFinitoEsCero) {
+    for (const double valor : {0.0, -0.0, infinito, -infinito, ninguno}) {
+        EXPECT_EQ(textoReal(valor), "0");
+        EXPECT_EQ(textoReal(static_cast<float>(valor)), "0");
+    }
+}
+
+TEST(TextoReal, LoEscritoSeLeeConLaMismaRegla) {
+    for (const char* nombre : {Idioma::espanol, Idioma::ingles}) {
+        const Idioma idioma(nombre);
+        std::mt19937_64 azar(15);
+        std::uniform_real_distribution<double> mantisa(-10, 10);
+        std::uniform_int_distribution<int> exponente(-300, 300);
+        for (int i = 0; i < 2000; ++i) {
+            const double valor = mantisa(azar) * std::pow(10, exponente(azar));
+            const std::string texto = textoReal(valor);
+            const std::optional<double> leido = realDeTexto(texto);
+            ASSERT_TRUE(leido) << texto;
+            EXPECT_NEAR(*leido / valor, 1, 1e-14) << texto;
+            EXPECT_EQ(textoReal(*leido), texto);
+        }
+    }
+}
+
+TEST(TextoEntero, AlcanzaLosExtremos) {
+    EXPECT_EQ(textoEntero(0), "0");
+    EXPECT_EQ(textoEntero(2147483647), "2147483647");
+    EXPECT_EQ(textoEntero(std::numeric_limits<std::int32_t>::min()), "-2147483648");
+    EXPECT_EQ(textoEntero(-2147483640), "-2147483640");
+}
+
+TEST(RealDeTexto, LeeLasDosFormas) {
+    const Idioma idioma(Idioma::espanol);
+    EXPECT_EQ(realDeTexto("1234,5"), 1234.5);
+    EXPECT_EQ(realDeTexto("4,846634E-12"), 4.846634E-12);
+    EXPECT_EQ(realDeTexto("1e3"), 1000.0);
+    EXPECT_EQ(realDeTexto("1E+07"), 1E+7);
+    EXPECT_EQ(realDeTexto("+2"), 2.0);
+    EXPECT_EQ(realDeTexto("-2,5"), -2.5);
+    EXPECT_EQ(realDeTexto(",5"), 0.5);
+    EXPECT_EQ(realDeTexto("5,"), 5.0);
+}
+
+TEST(RealDeTexto, ElSeparadorDecimalEsElDelIdiomaYElOtroAgrupa) {
+    {
+        const Idioma idioma(Idioma::espanol);
+        EXPECT_EQ(realDeTexto("1.5"), 15.0);
+        EXPECT_EQ(realDeTexto("1.2.34.567,25"), 1234567.25);
+        EXPECT_EQ(realDeTexto("1,5,"), std::nullopt);
+        EXPECT_EQ(realDeTexto("1,5.0"), std::nullopt);
+    }
+    const Idioma idioma(Idioma::ingles);
+    EXPECT_EQ(realDeTexto("1,5"), 15.0);
+    EXPECT_EQ(realDeTexto("1,234,567.25"), 1234567.25);
+    EXPECT_EQ(realDeTexto("1.5.5"), std::nullopt);
+}
+
+TEST(RealDeTexto, LosBlancosDeAlrededorNoCuentan) {
+    EXPECT_EQ(realDeTexto(" \t\v\f\x1A"
+                          "7\x1A\f\v\t "),
+              7.0);
+    EXPECT_EQ(realDeTexto("7\n"), std::nullopt);
+    EXPECT_EQ(realDeTexto("- 7"), std::nullopt);
+    EXPECT_EQ(realDeTexto("7 7"), std::nullopt);
+}
+
+TEST(RealDeTexto, LoQueNoEsUnNumeroNoDaNada) {
+    const Idioma idioma(Idioma::ingles);
+    for (const char* texto :
+         {"",    " ",   "abc", "inf", "nan", "-inf", "infinity",  "0x10",  "1p3",     ".",
+          ",",   "-",   "+",   "e5",  ".e5", "1e",   "1e+",       "1e5.0", "1e5,0",   "1e1e1",
+          "--1", "+-1", "1-",  "(1)", "1d5", "1_0",  "Verdadero", "1e.5",  "\xC3\xB1"}) {
+        EXPECT_EQ(realDeTexto(texto), std::nullopt) << texto;
+    }
+    EXPECT_EQ(realDeTexto(std::string_view("1\0", 2)), std::nullopt);
+}
+
+TEST(RealDeTexto, LoDemasiadoGrandeNoDaNadaYLoDemasiadoPequenoDaCero) {
+    const Idioma idioma(Idioma::ingles);
+    const std::string ceros(500, '0');
+    EXPECT_EQ(realDeTexto("1e400"), std::nullopt);
+    EXPECT_EQ(realDeTexto("-1e309"), std::nullopt);
+    EXPECT_EQ(realDeTexto("1e99999999999999999999"), std::nullopt);
+    EXPECT_EQ(realDeTexto("1" + ceros), std::nullopt);
+    EXPECT_EQ(realDeTexto("1" + ceros + "e-1"), std::nullopt);
+    EXPECT_EQ(realDeTexto("1e-400"), 0.0);
+    EXPECT_EQ(realDeTexto("-1e-400"), 0.0);
+    EXPECT_EQ(realDeTexto("1e-99999999999999999999"), 0.0);
+    EXPECT_EQ(realDeTexto("0." + ceros + "1"), 0.0);
+    EXPECT_EQ(realDeTexto("0." + ceros + "1e100"), 0.0);
+    EXPECT_EQ(realDeTexto("0e99999999999"), 0.0);
+    EXPECT_EQ(realDeTexto("0." + ceros + "1e501"), 1.0);
+    EXPECT_EQ(realDeTexto("1" + ceros + "e-500"), 1.0);
+    EXPECT_EQ(realDeTexto("1.7976931348623157E308"), std::numeric_limits<double>::max());
+    EXPECT_EQ(realDeTexto("4.94065645841247E-324"), std::numeric_limits<double>::denorm_min());
+}
+
+TEST(EnteroDeTexto, RedondeaLaMitadAlPar) {
+    const Idioma idioma(Idioma::espanol);
+    EXPECT_EQ(entero16DeTexto("2,5"), std::int16_t{2});
+    EXPECT_EQ(entero16DeTexto("3,5"), std::int16_t{4});
+    EXPECT_EQ(entero32DeTexto("-2,5"), -2);
+    EXPECT_EQ(entero32DeTexto("-2147483640"), -2147483640);
+    EXPECT_EQ(entero16DeTexto(" 17 "), std::int16_t{17});
+}
+
+TEST(EnteroDeTexto, LoQueNoCabeNoDaNada) {
+    const Idioma idioma(Idioma::espanol);
+    EXPECT_EQ(entero16DeTexto("32767,4"), std::int16_t{32767});
+    EXPECT_EQ(entero16DeTexto("32767,5"), std::nullopt);
+    EXPECT_EQ(entero16DeTexto("-32768"), std::int16_t{-32768});
+    EXPECT_EQ(entero16DeTexto("-32769"), std::nullopt);
+    EXPECT_EQ(entero32DeTexto("2147483648"), std::nullopt);
+    EXPECT_EQ(entero32DeTexto("1e300"), std::nullopt);
+    EXPECT_EQ(entero32DeTexto("abc"), std::nullopt);
+}
+
+TEST(RealTecleado, ElUltimoSeparadorEsElDecimalEnCualquierIdioma) {
+    for (const char* nombre : {Idioma::espanol, Idioma::ingles}) {
+        const Idioma idioma(nombre);
+        EXPECT_EQ(realTecleado("1,5"), 1.5);
+        EXPECT_EQ(realTecleado("1.5"), 1.5);
+        EXPECT_EQ(realTecleado(" 1.234,5 "), 1234.5);
+        EXPECT_EQ(realTecleado("1,234.5"), 1234.5);
+        EXPECT_EQ(realTecleado("1.234.5"), 1234.5);
+        EXPECT_EQ(realTecleado("12"), 12.0);
+        EXPECT_EQ(realTecleado(","), std::nullopt);
+        EXPECT_EQ(realTecleado(""), std::nullopt);
+        EXPECT_EQ(realTecleado("1m"), std::nullopt);
+    }
+}
+
+TEST(EnteroTecleado, TodosLosSeparadoresAgrupan) {
+    for (const char* nombre : {Idioma::espanol, Idioma::ingles}) {
+        const Idioma idioma(nombre);
+        EXPECT_EQ(enteroTecleado("29.700"), 29700.0);
+        EXPECT_EQ(enteroTecleado("29,700"), 29700.0);
+        EXPECT_EQ(enteroTecleado("1.234,5"), 12345.0);
+        EXPECT_EQ(enteroTecleado(" 7 "), 7.0);
+        EXPECT_EQ(enteroTecleado("."), std::nullopt);
+        EXPECT_EQ(enteroTecleado(""), std::nullopt);
+    }
+}
+
+TEST(FormatoMetros, AgrupaLosMillaresSegunElIdioma) {
+    {
+        const Idioma idioma(Idioma::espanol);
+        EXPECT_EQ(formatoMetros(1234567.891), "1.234.567,89");
+        EXPECT_EQ(formatoMetros(999.994), "999,99");
+        EXPECT_EQ(formatoMetros(999.996), "1.000,00");
+        EXPECT_EQ(formatoMetros(-1234.5), "-1.234,50");
+        EXPECT_EQ(formatoMetros(0.006), "0,01");
+        EXPECT_EQ(formatoMetros(0.07), "0,07");
+        EXPECT_EQ(formatoEntero(29700), "29.700");
+    }
+    const Idioma idioma(Idioma::ingles);
+    EXPECT_EQ(formatoMetros(1234567.891), "1,234,567.89");
+    EXPECT_EQ(formatoEntero(29700), "29,700");
+    EXPECT_EQ(formatoEntero(123456), "123,456");
+    EXPECT_EQ(formatoEntero(999), "999");
+}
+
+TEST(FormatoMetros, SoloUnaMitadExactaSeAlejaDelCero) {
+    const Idioma idioma(Idioma::espanol);
+    EXPECT_EQ(formatoMetros(0.125), "0,13");
+    EXPECT_EQ(formatoMetros(-0.125), "-0,13");
+    EXPECT_EQ(formatoMetros(0.375), "0,38");
+    EXPECT_EQ(formatoMetros(1.005), "1,00");  // its binary value lies below the half
+    EXPECT_EQ(formatoMetros(std::nextafter(0.125, 0)), "0,12");
+    EXPECT_EQ(formatoEntero(0.5), "1");
+    EXPECT_EQ(formatoEntero(2.5), "3");
+    EXPECT_EQ(formatoEntero(-2.5), "-3");
+    EXPECT_EQ(formatoEntero(std::nextafter(0.5, 0)), "0");
+    EXPECT_EQ(formatoEntero(999.5), "1.000");
+}
+
+TEST(FormatoMetros, ElCeroNoTieneSignoYLoNoFinitoEsCero) {
+    const Idioma idioma(Idioma::espanol);
+    for (const double valor : {0.0, -0.0, 0.004, -0.004, 1e-300, infinito, -infinito, ninguno}) {
+        EXPECT_EQ(formatoMetros(valor), "0,00");
+        EXPECT_EQ(formatoEntero(valor), "0");
+    }
+}
+
+TEST(FormatoMetros, ValeParaCualquierMagnitud) {
+    const Idioma idioma(Idioma::espanol);
+    EXPECT_EQ(formatoEntero(9007199254740993.0), "9.007.199.254.740.992");
+    for (const double valor : {1e300, 1e15, 123456789012345678.0, std::numeric_limits<double>::max()}) {
+        std::string texto = formatoMetros(valor);
+        EXPECT_TRUE(texto.ends_with(",00"));
+        EXPECT_EQ(enteroTecleado(texto.substr(0, texto.size() - 3)), valor);
+    }
+}
+
+TEST(Formatos, UnificarPoneSiemprePunto) {
+    for (const char* nombre : {Idioma::espanol, Idioma::ingles}) {
+        const Idioma idioma(nombre);
+        EXPECT_EQ(UnificarFormato("1,5"), "1.5");
+        EXPECT_EQ(UnificarFormato("1.5"), "1.5");
+        EXPECT_EQ(UnificarFormato("a,b,,c"), "a.b..c");
+        EXPECT_EQ(UnificarFormato(""), "");
+    }
+}
+
+TEST(Formatos, AplicarPoneElSeparadorDelIdioma) {
+    {
+        const Idioma idioma(Idioma::espanol);
+        EXPECT_EQ(AplicarFormato("1.5"), "1,5");
+        EXPECT_EQ(AplicarFormato("1,5"), "1,5");
+    }
+    const Idioma idioma(Idioma::ingles);
+    EXPECT_EQ(AplicarFormato("1.5"), "1.5");
+    EXPECT_EQ(AplicarFormato("1,5"), "1,5");
+}
+
+TEST(Formatos, UnRealNormalizadoSobreviveAUnCambioDeIdioma) {
+    std::string texto;
+    {
+        const Idioma idioma(Idioma::espanol);
+        texto = UnificarFormato(textoReal(1234.5));
+        EXPECT_EQ(texto, "1234.5");
+        EXPECT_EQ(realDeTexto(AplicarFormato(texto)), 1234.5);
+    }
+    const Idioma idioma(Idioma::ingles);
+    EXPECT_EQ(realDeTexto(AplicarFormato(texto)), 1234.5);
+}
