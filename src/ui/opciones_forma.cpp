@@ -1,5 +1,6 @@
 #include "ui/opciones_forma.h"
 
+#include "drawing/opciones.h"
 #include "model/standard.h"
 #include "ui/campo_numero.h"
 #include "ui/rotulos.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "drawing/opciones.h"
 #include "ui/dialogo.h"
 
+#include <string>
 #include <vector>
 
 class QCheckBox;
@@ -10,6 +10,7 @@ class QCheckBox;
 namespace bosquel {
 
 class CampoNumero;
+class Opciones;
 
 /// "Configuración": the settings dialog on the screen.
 class OpcionesForma : public Dialogo {
