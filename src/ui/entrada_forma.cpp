@@ -77,6 +77,11 @@ void EntradaForma::showEvent(QShowEvent* suceso) {
     reloj_->start();
 }
 
+void EntradaForma::hideEvent(QHideEvent* suceso) {
+    reloj_->stop();
+    QDialog::hideEvent(suceso);
+}
+
 void EntradaForma::paintEvent(QPaintEvent*) {
     QPainter pintor(this);
     pintor.setRenderHint(QPainter::Antialiasing);

@@ -18,6 +18,7 @@ class EntradaForma : public QDialog {
     explicit EntradaForma(Entrada& logica);
 
   protected:
+    void hideEvent(QHideEvent* suceso) override;
     void mousePressEvent(QMouseEvent* suceso) override;
     void paintEvent(QPaintEvent* suceso) override;
     void showEvent(QShowEvent* suceso) override;
