@@ -35,9 +35,8 @@ void preparar(Pared& pared, const char* tipo) {
 /// A wall without a place: it waits for the release that gives it one.
 void crearPared(Sesion& sesion, const char* tipo) {
     if (Pared* pared = sesion.dibujo.Pared.crearSiguiente()) preparar(*pared, tipo);
-    sesion.dibujo.ModoActual = Modo::Pared;
+    ponerModo(sesion, Modo::Pared);
     sesion.plataforma.ponerCursor(Cursor::IcoPared);
-    sesion.vistaSucia = true;
 }
 
 }  // namespace

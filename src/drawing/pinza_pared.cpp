@@ -157,7 +157,7 @@ void moverPinzaPared(Sesion& sesion, int indice, PinzaDePared cual, bool boton1,
         return;
     }
     sesion.plataforma.ponerCursor(Cursor::Flecha);
-    dibujo.ModoActual = Modo::Flecha;
+    ponerModo(sesion, Modo::Flecha);
     if (!boton1)
         senalar(dibujo, indice);
     else if (pared->NumeroGrupo != 0 && dibujo.GrupoEnMovimiento == 0)

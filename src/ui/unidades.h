@@ -15,6 +15,8 @@ inline int aPixeles(double unidades) {
     return static_cast<int>(std::lround(std::clamp(unidades / unidadesPorPixel, -lejos, lejos)));
 }
 
-inline float aUnidades(double pixeles) { return static_cast<float>(pixeles * unidadesPorPixel); }
+inline float aUnidades(double pixeles) {
+    return static_cast<float>(pixeles * unidadesPorPixel);
+}
 
 }  // namespace bosquel
