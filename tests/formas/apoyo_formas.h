@@ -1,0 +1,103 @@
+#pragma once
+
+#include "platform/plataforma.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSet>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace bosquel::apoyo {
+
+/// A platform to which nothing is of any interest.
+class PlataformaMuda : public Plataforma {
+  public:
+    Respuesta mensaje(const Mensaje&) override { return Respuesta::cancelar; }
+    void mostrar(Entrada&) override {}
+    void mostrar(Opciones&) override {}
+    void mostrar(ParedProp&) override {}
+    std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo&) override {
+        return std::nullopt;
+    }
+    void cederEventos() override {}
+    void activar(Reloj, bool) override { ++activaciones; }
+    void ponerCursor(Cursor) override {}
+    void ponerRelojDeArena(bool) override {}
+    void ponerTitulo(const std::string&) override {}
+    void vistaCambiada() override {}
+    void repintar(const ZonaSucia&, const ZonaSucia&) override {}
+    void terminar() override {}
+
+    int activaciones = 0;  ///< of the auto-save timer
+};
+
+/// The control of this object name; a test that asks for one that is not there fails.
+template <class Control = QWidget>
+Control& control(QWidget& forma, const QString& nombre) {
+    auto* hallado = forma.findChild<Control*>(nombre);
+    if (!hallado) qFatal("no control %s", qUtf8Printable(nombre));
+    return *hallado;
+}
+
+inline QString texto(QWidget& forma, const QString& campo) {
+    return control<QLineEdit>(forma, campo).text();
+}
+
+/// A caption without its mnemonic.
+template <class Control>
+QString rotulo(QWidget& forma, const QString& nombre) {
+    return control<Control>(forma, nombre).text().remove('&');
+}
+
+inline void mostrarActiva(QWidget& forma) {
+    forma.show();
+    forma.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&forma));
+}
+
+inline void pulsar(QWidget& forma, const QString& nombre) {
+    QTest::mouseClick(&control(forma, nombre), Qt::LeftButton);
+}
+
+/// Empties the field and types.
+inline void teclear(QWidget& forma, const QString& campo, const QString& tecleado) {
+    auto& destino = control<QLineEdit>(forma, campo);
+    destino.clear();
+    QTest::keyClicks(&destino, tecleado);
+}
+
+inline QColor color(const QWidget& control, QPalette::ColorRole papel) {
+    return control.palette().color(papel);
+}
+
+inline bool gris(const QWidget& campo) {
+    return !campo.isEnabled() && color(campo, QPalette::Base) == color(*campo.window(), QPalette::Button);
+}
+
+inline bool blanca(const QWidget& campo) {
+    return campo.isEnabled() && color(campo, QPalette::Base) == color(*campo.window(), QPalette::Base);
+}
+
+/// No two captions in sight share a letter, and every control says what it is.
+inline void esperarAccesible(QWidget& forma) {
+    QSet<QString> letras;
+    const auto apuntar = [&](const QString& rotulado) {
+        const QString letra = QKeySequence::mnemonic(rotulado).toString();
+        if (letra.isEmpty()) return;
+        EXPECT_FALSE(letras.contains(letra)) << rotulado.toStdString();
+        letras.insert(letra);
+    };
+    for (const QWidget* hijo : forma.findChildren<QWidget*>()) {
+        if (hijo->isHidden()) continue;
+        const auto* boton = qobject_cast<const QAbstractButton*>(hijo);
+        const auto* etiqueta = qobject_cast<const QLabel*>(hijo);
+        if (boton) apuntar(boton->text());
+        if (etiqueta && etiqueta->buddy()) apuntar(etiqueta->text());
+        EXPECT_TRUE(hijo->focusPolicy() == Qt::NoFocus || !hijo->accessibleName().isEmpty())
+            << hijo->objectName().toStdString();
+    }
+}
+
+}  // namespace bosquel::apoyo
