@@ -52,6 +52,15 @@ QPushButton* Dialogo::anadirBoton(const char* nombre, const QString& rotulo) {
     return boton;
 }
 
+void Dialogo::ordenar(const QStringList& nombres) {
+    QWidget* anterior = nullptr;
+    for (const QString& nombre : nombres) {
+        auto* siguiente = findChild<QWidget*>(nombre);
+        if (anterior) setTabOrder(anterior, siguiente);
+        anterior = siguiente;
+    }
+}
+
 void Dialogo::accept() {
     aplicar();
     QDialog::accept();

@@ -38,6 +38,9 @@ OpcionesForma::OpcionesForma(Opciones& logica, QWidget* padre)
         logica_.Restablecer();
         mostrar();
     });
+    ordenar({"TxtAnchoHoja", "TxtAltoHoja", "ChkIman", "ChkVisible", "TxtCuadricula", "chkSalvadoAutomatico",
+             "txtSalvarCadaXmin", "BttAplicar", "BttCancelar", "BttPredeterminar", "BttOriginales"});
+    findChild<CampoNumero*>("TxtAnchoHoja")->setFocus();
     mostrar();
 }
 

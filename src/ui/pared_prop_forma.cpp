@@ -50,8 +50,8 @@ void mover(QGridLayout* rejilla, const FilaPared& controles, int fila, Qt::Align
 /// The width takes the height of both radios' rows.
 void acomodarPilar(QGridLayout* rejilla, const FilaPared& anchura, const FilaPared& longitud) {
     const int alto = longitud[1]->sizeHint().height();
-    anchura[0]->setFixedHeight(alto);
-    longitud[0]->setFixedHeight(alto);
+    for (QWidget* texto : {anchura[0], anchura[2], longitud[0], longitud[2]})
+        texto->setFixedHeight(alto);
     rejilla->setRowMinimumHeight(filaMuro, 2 * alto + rejilla->verticalSpacing());
     rejilla->setRowMinimumHeight(filaLongitud, alto + aPixeles(bajadaPilar));
     mover(rejilla, anchura, filaMuro, Qt::AlignVCenter);
@@ -76,6 +76,8 @@ ParedPropForma::ParedPropForma(ParedProp& logica, QWidget* padre)
     columnas->addLayout(direccion());
     cuerpo()->addLayout(columnas);
     mostrarTipo();
+    ordenar({"TxtInicialX", "TxtInicialY", "Tipo_0", "TxtAnchoMuro", "Tipo_1", "TxtAnchoTabique",
+             "txtLongitud", "ChkPredeterminar", "TxtAngulo", "Dial", "Botones_1", "Botones_0"});
     txtLongitud_->setFocus();
 }
 
