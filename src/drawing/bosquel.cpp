@@ -117,6 +117,10 @@ void Bosquel::suprimir() {
     teclaSuprimir(sesion_);
 }
 
+void Bosquel::cerrar() {
+    sesion_.plataforma.terminar();
+}
+
 void Bosquel::minutoDeAutoSave() {
     const Turno turno(sesion_);
     tmrAutoSave(sesion_);

@@ -44,6 +44,9 @@ class Bosquel {
 
     void minutoDeAutoSave();
 
+    /// The close box: the program ends, with no question.
+    void cerrar();
+
   private:
     Sesion sesion_;
     Hoja hoja_;

@@ -82,7 +82,7 @@ void moverHoja(Sesion& sesion, bool boton1, float X, float Y) {
             QuitarBordeElevado(sesion);
             break;
         case Modo::Flecha:
-            dibujo.ModoActual = Modo::Aspa;
+            ponerModo(sesion, Modo::Aspa);
             soltarMarcas(dibujo);
             break;
         case Modo::Seleccion: {

@@ -35,9 +35,8 @@ void crearPared(Sesion& sesion, const char* tipo) {
     pared.NumeroGrupo = 0;
     pared.Estado = estadoNuevo;
     avanzar(dibujo.Pared.contador);
-    dibujo.ModoActual = Modo::Pared;
+    ponerModo(sesion, Modo::Pared);
     sesion.plataforma.ponerCursor(Cursor::IcoPared);
-    sesion.vistaSucia = true;
 }
 
 }  // namespace

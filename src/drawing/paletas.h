@@ -7,29 +7,30 @@
 namespace bosquel {
 
 /// A button of the window's left column. One whose command does not exist yet cannot be pressed.
-struct Boton {
+struct BotonDePaleta {
     std::string_view rotulo;
     bool disponible = false;
 };
 
-inline constexpr std::array<Boton, 4> BttOperacion{{{"Paralela"}, {"Esquina"}, {"Union"}, {"Separar"}}};
+inline constexpr std::array<BotonDePaleta, 4> BttOperacion{
+    {{"Paralela"}, {"Esquina"}, {"Union"}, {"Separar"}}};
 
-inline constexpr std::array<Boton, 6> BttTipo{{{"Muebles", true},
-                                               {"Baño", true},
-                                               {"Cocina", true},
-                                               {"División", true},
-                                               {"Escalera"},
-                                               {"Eléctrico", true}}};
+inline constexpr std::array<BotonDePaleta, 6> BttTipo{{{"Muebles", true},
+                                                       {"Baño", true},
+                                                       {"Cocina", true},
+                                                       {"División", true},
+                                                       {"Escalera"},
+                                                       {"Eléctrico", true}}};
 
-inline constexpr std::array<Boton, 6> BttMueble{
+inline constexpr std::array<BotonDePaleta, 6> BttMueble{
     {{"Mesa"}, {"Silla"}, {"Cama 90"}, {"Cama M"}, {"Armario"}, {"Asiento"}}};
-inline constexpr std::array<Boton, 6> BttBaño{
+inline constexpr std::array<BotonDePaleta, 6> BttBaño{
     {{"Inodoro"}, {"Lavabo"}, {"Bidet"}, {"Bañera"}, {"Ducha"}, {"Urinario"}}};
-inline constexpr std::array<Boton, 6> BttCocina{
+inline constexpr std::array<BotonDePaleta, 6> BttCocina{
     {{"Nevera"}, {"Cocina"}, {"Fregad."}, {"Lavado."}, {"Lavade."}, {"Vertede."}}};
-inline constexpr std::array<Boton, 6> BttUsuario{
+inline constexpr std::array<BotonDePaleta, 6> BttUsuario{
     {{"Muro", true}, {"Tabique", true}, {"Pilar", true}, {"Texto"}, {"Puerta"}, {"Ventana"}}};
-inline constexpr std::array<Boton, 6> BttElectrico{
+inline constexpr std::array<BotonDePaleta, 6> BttElectrico{
     {{"Luz"}, {"Llave"}, {"Enchufe"}, {"Pulsador"}, {"Señal"}, {"Cuadro"}}};
 
 /// The palette selector: shows a palette and its title. The tool in hand goes on.

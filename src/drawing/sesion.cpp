@@ -24,10 +24,15 @@ Respuesta preguntar(Sesion& sesion, const Mensaje& mensaje) {
     return sesion.plataforma.mensaje(mensaje);
 }
 
-void volverAlAspa(Sesion& sesion) {
-    sesion.dibujo.ModoActual = Modo::Aspa;
-    sesion.plataforma.ponerCursor(Cursor::Cruz);
+void ponerModo(Sesion& sesion, Modo modo) {
+    if (sesion.dibujo.ModoActual == modo) return;
+    sesion.dibujo.ModoActual = modo;
     sesion.vistaSucia = true;
+}
+
+void volverAlAspa(Sesion& sesion) {
+    ponerModo(sesion, Modo::Aspa);
+    sesion.plataforma.ponerCursor(Cursor::Cruz);
 }
 
 }  // namespace bosquel

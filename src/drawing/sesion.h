@@ -87,6 +87,8 @@ void mostrar(Sesion& sesion, Dialogo& dialogo) {
     sesion.plataforma.mostrar(dialogo);
 }
 
+/// The tool in hand changes.
+void ponerModo(Sesion& sesion, Modo modo);
 /// A tool ends: mode "Aspa" and its cursor.
 void volverAlAspa(Sesion& sesion);
 

@@ -82,6 +82,14 @@ struct Campo {
     FormaPropia forma = {};
 };
 
+// Clang does not deduce these from an aggregate until its 17.
+template <class Acceso>
+Campo(std::string_view, Acceso) -> Campo<Acceso>;
+template <class Acceso>
+Campo(std::string_view, Acceso, std::optional<std::string_view>) -> Campo<Acceso>;
+template <class Acceso, class FormaPropia>
+Campo(std::string_view, Acceso, std::optional<std::string_view>, FormaPropia) -> Campo<Acceso, FormaPropia>;
+
 template <class FormaPropia, class Valor>
 using FormaDe = std::conditional_t<std::is_same_v<FormaPropia, SegunTipo>, Forma<Valor>, FormaPropia>;
 

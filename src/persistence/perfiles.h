@@ -16,6 +16,8 @@ class ArchivoPerfil {
     /// A file that does not exist or cannot be read is an empty one.
     explicit ArchivoPerfil(std::filesystem::path ruta);
     ~ArchivoPerfil();
+    ArchivoPerfil(const ArchivoPerfil&) = delete;
+    ArchivoPerfil& operator=(const ArchivoPerfil&) = delete;
     ArchivoPerfil(ArchivoPerfil&&) noexcept;
     ArchivoPerfil& operator=(ArchivoPerfil&&) noexcept;
 

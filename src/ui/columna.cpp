@@ -1,0 +1,127 @@
+#include "ui/columna.h"
+
+#include "ui/boton.h"
+#include "ui/textos.h"
+
+#include <span>
+
+namespace bosquel {
+
+namespace {
+
+constexpr int margen = 2;
+constexpr int anchoBoton = 51;
+constexpr int altoBoton = 48;
+constexpr int separacion = 1;
+constexpr int altoRotulo = 20;
+constexpr int hueco = 8;   // between groups
+constexpr int letra = 11;  // pixels
+constexpr int ancho = 2 * margen + 2 * anchoBoton + separacion;
+
+using Imagenes = std::span<const char* const>;
+
+constexpr std::array imagenesRelacion{"paralela", "esquina", "union", "separar"};
+constexpr std::array imagenesTipo{"muebles", "bano", "cocina", "division", "escalera", "electrico"};
+constexpr std::array imagenesUsuario{"muro", "tabique", "pilar", "texto", "puerta", "ventana"};
+
+/// A palette of element buttons, and what a click on one does.
+struct PaletaDeBotones {
+    const char* panel;
+    const char* grupo;
+    std::span<const BotonDePaleta> botones;
+    Imagenes imagenes = {};
+    void (Bosquel::*pulsar)(int) = nullptr;
+};
+
+/// By the values of `Paleta`.
+constexpr std::array<PaletaDeBotones, 5> paletas{
+    {{"FrMuebles", "BttMueble", BttMueble},
+     {"FrBaño", "BttBaño", BttBaño},
+     {"FrCocina", "BttCocina", BttCocina},
+     {"FrUsuario", "BttUsuario", BttUsuario, imagenesUsuario, &Bosquel::pulsarUsuario},
+     {"FrElectrico", "BttElectrico", BttElectrico}}};
+
+/// Two abreast.
+QRect sitio(std::size_t indice, int y) {
+    const int columna = static_cast<int>(indice % 2);
+    const int fila = static_cast<int>(indice / 2);
+    return {margen + columna * (anchoBoton + separacion), y + fila * (altoBoton + separacion), anchoBoton,
+            altoBoton};
+}
+
+int altoDe(std::size_t botones) {
+    return static_cast<int>((botones + 1) / 2) * (altoBoton + separacion);
+}
+
+std::vector<Boton*> ponerBotones(const QString& grupo, std::span<const BotonDePaleta> botones,
+                                 Imagenes imagenes, QWidget* padre, int y) {
+    std::vector<Boton*> puestos;
+    for (std::size_t i = 0; i < botones.size(); ++i) {
+        auto* boton = new Boton(QString("%1_%2").arg(grupo).arg(i), aQString(botones[i].rotulo),
+                                i < imagenes.size() ? imagenes[i] : "", padre);
+        boton->setGeometry(sitio(i, y));
+        boton->setEnabled(botones[i].disponible);
+        puestos.push_back(boton);
+    }
+    return puestos;
+}
+
+QLabel* ponerRotulo(const QString& nombre, const QString& rotulo, QWidget* padre, int y) {
+    auto* etiqueta = new QLabel(rotulo, padre);
+    etiqueta->setObjectName(nombre);
+    etiqueta->setAlignment(Qt::AlignCenter);
+    etiqueta->setGeometry(0, y, ancho, altoRotulo);
+    QFont fuente = etiqueta->font();
+    fuente.setPixelSize(letra);
+    fuente.setBold(true);
+    etiqueta->setFont(fuente);
+    return etiqueta;
+}
+
+}  // namespace
+
+Columna::Columna(Bosquel& bosquel, QWidget* padre) : QWidget(padre), bosquel_(bosquel) {
+    setMouseTracking(true);
+    int y = margen;
+    ponerRotulo("lblRelaciones", "Relaciones", this, y);
+    y += altoRotulo;
+    ponerBotones("BttOperacion", BttOperacion, imagenesRelacion, this, y);
+    y += altoDe(BttOperacion.size()) + hueco;
+    ponerSelector(y);
+    y += altoDe(BttTipo.size()) + hueco;
+    letrero_ = ponerRotulo("Letrero", {}, this, y);
+    y += altoRotulo;
+    ponerPaletas(y);
+    setMinimumSize(ancho, y + altoDe(BttUsuario.size()) + margen);
+    mostrarPaleta();
+}
+
+void Columna::ponerSelector(int y) {
+    selector_ = ponerBotones("BttTipo", BttTipo, imagenesTipo, this, y);
+    for (std::size_t i = 0; i < selector_.size(); ++i) {
+        connect(selector_[i], &Boton::clicked, this, [this, i] { bosquel_.pulsarTipo(static_cast<int>(i)); });
+        connect(selector_[i], &Boton::cruzado, this, [this] { bosquel_.cruzarVentana(); });
+    }
+}
+
+void Columna::ponerPaletas(int y) {
+    for (const PaletaDeBotones& paleta : paletas) {
+        auto* panel = new QWidget(this);
+        panel->setObjectName(paleta.panel);
+        panel->setGeometry(0, y, ancho, altoDe(paleta.botones.size()));
+        const auto botones = ponerBotones(paleta.grupo, paleta.botones, paleta.imagenes, panel, 0);
+        for (std::size_t i = 0; paleta.pulsar && i < botones.size(); ++i)
+            connect(botones[i], &Boton::clicked, this,
+                    [this, &paleta, i] { (bosquel_.*paleta.pulsar)(static_cast<int>(i)); });
+        paneles_.push_back(panel);
+    }
+}
+
+void Columna::mostrarPaleta() {
+    const Sesion& sesion = bosquel_.sesion();
+    letrero_->setText(aQString(sesion.Letrero));
+    for (std::size_t i = 0; i < paneles_.size(); ++i)
+        paneles_[i]->setVisible(i == static_cast<std::size_t>(sesion.paleta));
+}
+
+}  // namespace bosquel

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "drawing/bosquel.h"
+
+#include <QLabel>
+#include <QWidget>
+#include <vector>
+
+namespace bosquel {
+
+class Boton;
+
+/// The column at the window's left: the relations between walls, the palette selector, and one palette of
+/// element buttons at a time under its title. All buttons are of one size and nothing jumps when the palette
+/// changes.
+class Columna final : public QWidget {
+  public:
+    Columna(Bosquel& bosquel, QWidget* padre);
+
+    /// Shows the palette that the session says.
+    void mostrarPaleta();
+
+  private:
+    void ponerSelector(int y);
+    void ponerPaletas(int y);
+
+    Bosquel& bosquel_;
+    QLabel* letrero_ = nullptr;
+    std::vector<QWidget*> paneles_;  ///< by the values of `Paleta`
+    std::vector<Boton*> selector_;
+};
+
+}  // namespace bosquel

@@ -1,0 +1,123 @@
+#include "ui/pintura_hoja.h"
+
+#include "ui/superficie_qt.h"
+#include "walls/pared.h"
+#include "walls/trazar_pared.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace bosquel {
+
+namespace {
+
+const QColor bordePinza(64, 64, 64);
+const QColor colorVector(64, 64, 64);
+
+Recuadro aUnidadesDeHoja(const QRect& zona, double escala) {
+    return {zona.x() / escala, zona.y() / escala, zona.width() / escala, zona.height() / escala};
+}
+
+/// The lines of one direction that fall into [desde, hasta], as device pixels.
+template <class Linea>
+void porLineas(double desde, double hasta, double fin, std::int32_t paso, double escala, Linea linea) {
+    const double ultima = std::min(hasta, fin);
+    for (double n = std::max(0.0, std::ceil(desde / paso)); n * paso <= ultima; ++n)
+        linea(static_cast<int>(std::lround(n * paso * escala)));
+}
+
+/// The grid runs from the sheet's corner to where the sheet ended when it was drawn.
+void pintarCuadricula(QPainter& pintor, const CuadriculaDibujada& cuadricula, const QRect& zona,
+                      double escala) {
+    if (cuadricula.paso <= 0) return;
+    const Recuadro visible = aUnidadesDeHoja(zona, escala);
+    const QRect alcance = zona & QRect(0, 0, zona.right() + 1, zona.bottom() + 1);
+    const double derecha = std::min(cuadricula.ancho, visible.Left + visible.Width);
+    const double abajo = std::min(cuadricula.alto, visible.Top + visible.Height);
+    const int x2 = static_cast<int>(std::lround(derecha * escala));
+    const int y2 = static_cast<int>(std::lround(abajo * escala));
+    const QColor color = colorQt(colorCuadricula);
+    if (cuadricula.paso * escala < 1) {
+        pintor.fillRect(QRect(alcance.topLeft(), QPoint(x2, y2)), color);
+        return;
+    }
+    pintor.setPen(color);
+    porLineas(visible.Top, visible.Top + visible.Height, cuadricula.alto, cuadricula.paso, escala,
+              [&](int y) { pintor.drawLine(alcance.left(), y, x2, y); });
+    porLineas(visible.Left, visible.Left + visible.Width, cuadricula.ancho, cuadricula.paso, escala,
+              [&](int x) { pintor.drawLine(x, alcance.top(), x, y2); });
+}
+
+void pintarPinza(QPainter& pintor, const Pinza& pinza, double escala) {
+    const QPoint esquina(static_cast<int>(std::lround(pinza.Left * escala)),
+                         static_cast<int>(std::lround(pinza.Top * escala)));
+    const int lado = std::max(3, static_cast<int>(std::lround(pinza.Lado * escala)));
+    pintor.fillRect(QRect(esquina, QSize(lado, lado)), colorQt(pinza.BackColor));
+    pintor.setPen(bordePinza);
+    pintor.drawRect(QRect(esquina, QSize(lado - 1, lado - 1)));
+}
+
+/// Walls and their grips in the z-order: grips sent to the back lie under all strokes, those brought to the
+/// front over them.
+class Capas {
+  public:
+    Capas(QPainter& pintor, const Sesion& sesion, double escala)
+        : pintor_(pintor), color_(sesion.dibujo.Pared.modelo().LineColor), escala_(escala) {}
+
+    void anadir(const Pared& pared) {
+        paredes_.push_back(&pared);
+        for (const Pinza* pinza : pared.pinzas())
+            if (pinza->Visible) pinzas_.push_back(pinza);
+    }
+
+    void pintar() {
+        std::stable_sort(pinzas_.begin(), pinzas_.end(),
+                         [](const Pinza* a, const Pinza* b) { return a->orden < b->orden; });
+        const auto delante = std::find_if(pinzas_.begin(), pinzas_.end(),
+                                          [](const Pinza* pinza) { return pinza->orden >= 0; });
+        for (auto pinza = pinzas_.begin(); pinza != delante; ++pinza)
+            pintarPinza(pintor_, **pinza, escala_);
+        SuperficieQt superficie(pintor_, escala_, {});
+        for (const Pared* pared : paredes_)
+            TrazarPared(superficie, *pared, color_, 1);
+        for (auto pinza = delante; pinza != pinzas_.end(); ++pinza)
+            pintarPinza(pintor_, **pinza, escala_);
+    }
+
+  private:
+    QPainter& pintor_;
+    Color color_;
+    double escala_;
+    std::vector<const Pared*> paredes_;
+    std::vector<const Pinza*> pinzas_;
+};
+
+}  // namespace
+
+void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, double escala) {
+    pintor.fillRect(zona, colorQt(blanco));
+    pintarCuadricula(pintor, sesion.cuadricula, zona, escala);
+    const Recuadro visible = aUnidadesDeHoja(zona, escala);
+    Capas capas(pintor, sesion, escala);
+    sesion.dibujo.Pared.recorrer([&](int, const Pared& pared) {
+        const auto extension = pared.EnMovimiento ? std::nullopt : contorno(pared);
+        if (extension && extension->toca(visible)) capas.anadir(pared);
+    });
+    capas.pintar();
+}
+
+void pintarEnMovimiento(QPainter& pintor, const Sesion& sesion, double escala) {
+    Capas capas(pintor, sesion, escala);
+    for (const int indice : sesion.paredesEnMovimiento)
+        if (const Pared* pared = sesion.dibujo.Pared.en(indice)) capas.anadir(*pared);
+    capas.pintar();
+    if (!sesion.Vector.Visible) return;
+    const Segmento& vector = sesion.Vector;
+    const auto linea =
+        recortar(QPointF(vector.X1, vector.Y1) * escala, QPointF(vector.X2, vector.Y2) * escala);
+    pintor.setPen(QPen(colorVector, 1, Qt::DotLine));
+    if (linea) pintor.drawLine(*linea);
+}
+
+}  // namespace bosquel

@@ -1,0 +1,133 @@
+#include "ui/plataforma_qt.h"
+
+#include "ui/entrada_forma.h"
+#include "ui/hoja_widget.h"
+#include "ui/opciones_forma.h"
+#include "ui/pared_prop_forma.h"
+#include "ui/textos.h"
+#include "ui/ventana_bosquel.h"
+
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <cstdlib>
+
+namespace bosquel {
+
+namespace {
+
+/// How long a wait loop lets events run before it looks again, ms.
+constexpr int turno = 5;
+
+struct BotonDeMensaje {
+    QMessageBox::StandardButton boton;
+    const char* rotulo;
+    Respuesta respuesta;
+};
+
+constexpr BotonDeMensaje aceptar{QMessageBox::Ok, "Aceptar", Respuesta::aceptar};
+constexpr BotonDeMensaje si{QMessageBox::Yes, "&Sí", Respuesta::si};
+constexpr BotonDeMensaje no{QMessageBox::No, "&No", Respuesta::no};
+constexpr BotonDeMensaje cancelar{QMessageBox::Cancel, "&Cancelar", Respuesta::cancelar};
+
+/// The last one is what closing the box answers.
+std::vector<BotonDeMensaje> botonesDe(Botones botones) {
+    switch (botones) {
+        case Botones::aceptar: return {aceptar};
+        case Botones::siNo: return {si, no};
+        case Botones::siNoCancelar: return {si, no, cancelar};
+    }
+    return {};
+}
+
+}  // namespace
+
+Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
+    QMessageBox caja(ventana_);
+    caja.setWindowTitle(aQString(mensaje.titulo));
+    caja.setTextFormat(Qt::PlainText);
+    // Yes, no and cancel from left to right, whatever the desktop's order.
+    caja.setStyleSheet(QStringLiteral("QMessageBox { button-layout: %1 }").arg(QDialogButtonBox::WinLayout));
+    caja.setText(aQString(mensaje.texto));
+    caja.setIcon(mensaje.icono == Icono::pregunta ? QMessageBox::Question : QMessageBox::Information);
+    const auto botones = botonesDe(mensaje.botones);
+    for (const BotonDeMensaje& boton : botones)
+        caja.addButton(boton.boton)->setText(QString::fromUtf8(boton.rotulo));
+    caja.setEscapeButton(botones.back().boton);
+    const int pulsado = caja.exec();
+    for (const BotonDeMensaje& boton : botones)
+        if (boton.boton == pulsado) return boton.respuesta;
+    return botones.back().respuesta;
+}
+
+void PlataformaQt::mostrar(Entrada& dialogo) {
+    EntradaForma(dialogo).exec();
+}
+void PlataformaQt::mostrar(Opciones& dialogo) {
+    OpcionesForma(dialogo, ventana_).exec();
+}
+void PlataformaQt::mostrar(ParedProp& dialogo) {
+    ParedPropForma(dialogo, ventana_).exec();
+}
+
+std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionArchivo& peticion) {
+    const bool guardar = peticion.modo == PeticionArchivo::Modo::guardar;
+    QFileDialog dialogo(ventana_, guardar ? "Guardar dibujo" : "Abrir dibujo",
+                        QString::fromStdString(peticion.carpeta.string()), aQString(peticion.filtro));
+    dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
+    dialogo.setAcceptMode(guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialogo.setFileMode(QFileDialog::AnyFile);
+    if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
+    return std::filesystem::path(dialogo.selectedFiles().constFirst().toStdString());
+}
+
+void PlataformaQt::cederEventos() {
+    QEventLoop espera;
+    QTimer::singleShot(turno, &espera, &QEventLoop::quit);
+    espera.exec();
+}
+
+void PlataformaQt::activar(Reloj reloj, bool activo) {
+    if (!ventana_) return;
+    switch (reloj) {
+        case Reloj::tmrAutoSave: {
+            QTimer& timer = ventana_->tmrAutoSave();
+            if (activo && !timer.isActive()) timer.start();
+            if (!activo) timer.stop();
+        }
+    }
+}
+
+void PlataformaQt::ponerCursor(Cursor cursor) {
+    if (ventana_) ventana_->hoja().ponerCursor(cursor);
+}
+
+void PlataformaQt::ponerRelojDeArena(bool puesto) {
+    if (puesto)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+void PlataformaQt::ponerTitulo(const std::string& titulo) {
+    if (ventana_) ventana_->setWindowTitle(aQString(titulo));
+}
+
+void PlataformaQt::vistaCambiada() {
+    if (ventana_) ventana_->mostrarVista();
+}
+
+void PlataformaQt::repintar(const ZonaSucia& zona, const ZonaSucia& paso) {
+    if (ventana_) ventana_->hoja().ensuciar(zona, paso);
+}
+
+void PlataformaQt::terminar() {
+    // At once, whatever loops and dialogs are still open; nothing is saved on the way out.
+    std::quick_exit(EXIT_SUCCESS);
+}
+
+}  // namespace bosquel

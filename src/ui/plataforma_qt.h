@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/plataforma.h"
+
+namespace bosquel {
+
+class VentanaBosquel;
+
+/// The seam to the outside, with Qt behind it.
+class PlataformaQt final : public Plataforma {
+  public:
+    /// The window that messages and dialogs belong to, and in which the view is shown; none before it exists.
+    void ponerVentana(VentanaBosquel* ventana) { ventana_ = ventana; }
+
+    Respuesta mensaje(const Mensaje& mensaje) override;
+    void mostrar(Entrada& dialogo) override;
+    void mostrar(Opciones& dialogo) override;
+    void mostrar(ParedProp& dialogo) override;
+    std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) override;
+    void cederEventos() override;
+    void activar(Reloj reloj, bool activo) override;
+    void ponerCursor(Cursor cursor) override;
+    void ponerRelojDeArena(bool puesto) override;
+    void ponerTitulo(const std::string& titulo) override;
+    void vistaCambiada() override;
+    void repintar(const ZonaSucia& zona, const ZonaSucia& paso) override;
+    void terminar() override;
+
+  private:
+    VentanaBosquel* ventana_ = nullptr;
+};
+
+}  // namespace bosquel
