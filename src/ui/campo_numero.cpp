@@ -73,7 +73,8 @@ void CampoNumero::changeEvent(QEvent* suceso) {
 void CampoNumero::contextMenuEvent(QContextMenuEvent* suceso) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const bool escribible = !isReadOnly(), elegido = hasSelectedText();
+    const bool escribible = !isReadOnly();
+    const bool elegido = hasSelectedText();
     const auto orden = [&](const char* rotulo, auto hacer, bool posible) {
         menu->addAction(rotulo, this, hacer)->setEnabled(posible);
     };

@@ -4,6 +4,7 @@
 #include "model/standard.h"
 #include "ui/campo_numero.h"
 #include "ui/rotulos.h"
+#include "ui/textos.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -99,7 +100,7 @@ void OpcionesForma::mostrar() {
     // The values of the logic: a copy, since each control writes back as it is filled.
     const Opciones valores = logica_;
     for (const auto& [campo, valor] : textos_)
-        campo->setText(QString::fromStdString(valores.*valor));
+        campo->setText(aQString(valores.*valor));
     for (const auto& [campo, valor] : casillas_)
         campo->setChecked(valores.*valor);
 }

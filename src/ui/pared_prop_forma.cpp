@@ -4,6 +4,7 @@
 #include "ui/campo_numero.h"
 #include "ui/dial.h"
 #include "ui/rotulos.h"
+#include "ui/textos.h"
 #include "ui/unidades.h"
 #include "walls/pared_prop.h"
 
@@ -31,8 +32,7 @@ Dial::Traza trazaDial() {
     Dial::Traza traza{"EtiquetaAngulo_", "LineaAngulo_", {}, largoRadios};
     int angulo = 90;
     for (const auto rotulo : ParedProp::EtiquetaAngulo) {
-        traza.radios.push_back(
-            {QString::fromUtf8(rotulo.data(), static_cast<qsizetype>(rotulo.size())), angulo});
+        traza.radios.push_back({aQString(rotulo), angulo});
         angulo -= gradosPorRadio;
     }
     return traza;
@@ -83,7 +83,7 @@ ParedPropForma::ParedPropForma(ParedProp& logica, QWidget* padre)
 
 CampoNumero* ParedPropForma::campo(const char* nombre, std::string ParedProp::*texto) {
     auto* campo = nombrar(new CampoNumero(FiltraDecimal), nombre);
-    campo->setText(QString::fromStdString(logica_.*texto));
+    campo->setText(aQString(logica_.*texto));
     campo->setAlignment(Qt::AlignRight);
     campo->setFixedWidth(anchoCampo);
     connect(campo, &QLineEdit::textChanged, this,
@@ -173,7 +173,7 @@ QWidget* ParedPropForma::casilla() {
 
 void ParedPropForma::elegirAngulo(int etiqueta) {
     logica_.elegirAngulo(etiqueta);
-    txtAngulo_->setText(QString::fromStdString(logica_.TxtAngulo));
+    txtAngulo_->setText(aQString(logica_.TxtAngulo));
     dial_->encender(logica_.radioEncendido());
 }
 

@@ -1,6 +1,7 @@
 #include "ui/plano_entrada.h"
 
 #include <QLineF>
+#include <QList>
 #include <QPainter>
 #include <algorithm>
 
@@ -12,7 +13,7 @@ namespace {
 constexpr double ancho = 12.4, alto = 5;
 
 // clang-format off
-const QLineF muros[] = {
+const QList<QLineF> muros = {
     // outer face, broken by three windows and the door of the house
     {0, 0, 1.2, 0}, {3.2, 0, 5.8, 0}, {7.8, 0, 9.8, 0}, {11.2, 0, 12.4, 0}, {12.4, 0, 12.4, 5},
     {12.4, 5, 6.4, 5}, {5.4, 5, 0, 5}, {0, 5, 0, 0},
@@ -30,7 +31,7 @@ const QLineF muros[] = {
     {4.6, 3.2, 4.7, 3.2}, {4.6, 4.2, 4.7, 4.2}, {5.4, 5, 5.4, 4.8}, {6.4, 5, 6.4, 4.8}, {9, 3.4, 9.1, 3.4}, {9, 4.4, 9.1, 4.4},
 };
 
-const QLineF carpinteria[] = {
+const QList<QLineF> carpinteria = {
     // panes
     {1.2, .1, 3.2, .1}, {5.8, .1, 7.8, .1}, {9.8, .1, 11.2, .1},
     // leaves
@@ -40,12 +41,12 @@ const QLineF carpinteria[] = {
 /// A quarter of a circle around a hinge: where a leaf swings. Sixteenths of a degree, from the right upwards.
 struct Giro {
     QPointF gozne;
-    double hoja;
-    int desde;
+    double hoja = 0;
+    int desde = 0;
 };
-const Giro giros[] = {{{4.6, 4.2}, 1, 90 * 16}, {{5.4, 4.8}, 1, 0}, {{9.1, 4.4}, 1, 0}};
+const QList<Giro> giros = {{{4.6, 4.2}, 1, 90 * 16}, {{5.4, 4.8}, 1, 0}, {{9.1, 4.4}, 1, 0}};
 
-const QRectF muebles[] = {
+const QList<QRectF> muebles = {
     // bed, pillow, wardrobe
     {.2, 1, 2, 1.5}, {.3, 1.1, .45, 1.3}, {.2, 4.2, 2.2, .6},
     // table and four chairs
@@ -71,12 +72,12 @@ void dibujarPlano(QPainter& pintor, const QRectF& marco, const QColor& tintaMuro
     };
     pintor.setBrush(Qt::NoBrush);
     pluma(tintaMuebles, 1);
-    pintor.drawRects(muebles, static_cast<int>(std::size(muebles)));
-    pintor.drawLines(carpinteria, static_cast<int>(std::size(carpinteria)));
+    pintor.drawRects(muebles);
+    pintor.drawLines(carpinteria);
     for (const auto& [gozne, hoja, desde] : giros)
         pintor.drawArc(QRectF(gozne - QPointF(hoja, hoja), QSizeF(2 * hoja, 2 * hoja)), desde, 90 * 16);
     pluma(tintaMuros, 1.6);
-    pintor.drawLines(muros, static_cast<int>(std::size(muros)));
+    pintor.drawLines(muros);
     pintor.restore();
 }
 

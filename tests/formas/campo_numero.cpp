@@ -32,7 +32,7 @@ struct CampoNumeroPrueba : testing::Test {
         entero.setFocus();
     }
 
-    void pegar(CampoNumero& campo, const QString& texto) {
+    static void pegar(CampoNumero& campo, const QString& texto) {
         QApplication::clipboard()->setText(texto);
         QTest::keyClick(&campo, Qt::Key_V, Qt::ControlModifier);
     }
