@@ -1,7 +1,6 @@
 #include "drawing/paletas.h"
 
 #include "drawing/archivo.h"
-#include "model/numeros.h"
 
 namespace bosquel {
 
@@ -22,10 +21,7 @@ constexpr std::array<PaletaDeTipo, 5> paletas{{{0, Paleta::FrMuebles, "Muebles"}
 constexpr std::array<const char*, 3> tiposDePared{"Muro", "Tabique", "Pilar"};
 constexpr double ladoPilar = 300;  // mm
 
-/// A wall without a place: it waits for the release that gives it one.
-void crearPared(Sesion& sesion, const char* tipo) {
-    Dibujo& dibujo = sesion.dibujo;
-    Pared& pared = dibujo.Pared.crear(dibujo.Pared.contador);
+void preparar(Pared& pared, const char* tipo) {
     pared.Tipo = tipo;
     if (pared.Tipo == "Pilar") {
         pared.AnchoMuro = ladoPilar;
@@ -34,7 +30,11 @@ void crearPared(Sesion& sesion, const char* tipo) {
     }
     pared.NumeroGrupo = 0;
     pared.Estado = estadoNuevo;
-    avanzar(dibujo.Pared.contador);
+}
+
+/// A wall without a place: it waits for the release that gives it one.
+void crearPared(Sesion& sesion, const char* tipo) {
+    if (Pared* pared = sesion.dibujo.Pared.crearSiguiente()) preparar(*pared, tipo);
     ponerModo(sesion, Modo::Pared);
     sesion.plataforma.ponerCursor(Cursor::IcoPared);
 }

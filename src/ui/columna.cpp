@@ -81,6 +81,7 @@ QLabel* ponerRotulo(const QString& nombre, const QString& rotulo, QWidget* padre
 }  // namespace
 
 Columna::Columna(Bosquel& bosquel, QWidget* padre) : QWidget(padre), bosquel_(bosquel) {
+    setMouseTracking(true);
     int y = margen;
     ponerRotulo("lblRelaciones", "Relaciones", this, y);
     y += altoRotulo;

@@ -18,6 +18,13 @@ namespace {
 
 constexpr int anchoCampo = 84;  // px
 
+/// The fields of all three frames stand in one column, whatever their units.
+QGridLayout* rejillaConUnidades(QWidget* marco) {
+    auto* rejilla = nuevaRejilla(marco);
+    rejilla->setColumnMinimumWidth(2, QLabel("minutos").sizeHint().width());
+    return rejilla;
+}
+
 }  // namespace
 
 OpcionesForma::OpcionesForma(Opciones& logica, QWidget* padre)
@@ -31,6 +38,9 @@ OpcionesForma::OpcionesForma(Opciones& logica, QWidget* padre)
         logica_.Restablecer();
         mostrar();
     });
+    ordenar({"TxtAnchoHoja", "TxtAltoHoja", "ChkIman", "ChkVisible", "TxtCuadricula", "chkSalvadoAutomatico",
+             "txtSalvarCadaXmin", "BttAplicar", "BttCancelar", "BttPredeterminar", "BttOriginales"});
+    findChild<CampoNumero*>("TxtAnchoHoja")->setFocus();
     mostrar();
 }
 
@@ -52,7 +62,7 @@ QCheckBox* OpcionesForma::casilla(const char* nombre, const QString& rotulo, boo
 
 QWidget* OpcionesForma::dimensiones() {
     auto* marco = new QGroupBox("Dimensiones");
-    auto* rejilla = new QGridLayout(marco);
+    auto* rejilla = rejillaConUnidades(marco);
     auto* ancho = texto("TxtAnchoHoja", new CampoNumero(FiltraEntero), &Opciones::TxtAnchoHoja);
     auto* alto = texto("TxtAltoHoja", new CampoNumero(FiltraEntero), &Opciones::TxtAltoHoja);
     ponerFila(rejilla, 0, rotular("Ancho &de la hoja:", ancho, "mm"), ancho, "mm");
@@ -62,7 +72,7 @@ QWidget* OpcionesForma::dimensiones() {
 
 QWidget* OpcionesForma::cuadricula() {
     auto* marco = new QGroupBox("Cuadrícula");
-    auto* rejilla = new QGridLayout(marco);
+    auto* rejilla = rejillaConUnidades(marco);
     auto* espaciado = texto("TxtCuadricula", new CampoNumero(FiltraDecimal), &Opciones::TxtCuadricula);
     rejilla->addWidget(casilla("ChkIman", "Activar c&uadrícula", &Opciones::ChkIman), 0, 0, 1, 3);
     rejilla->addWidget(casilla("ChkVisible", "&Mostrar cuadrícula", &Opciones::ChkVisible), 1, 0, 1, 3);
@@ -72,7 +82,7 @@ QWidget* OpcionesForma::cuadricula() {
 
 QWidget* OpcionesForma::salvadoAutomatico() {
     auto* marco = new QGroupBox("Salvado Automático");
-    auto* rejilla = new QGridLayout(marco);
+    auto* rejilla = rejillaConUnidades(marco);
     auto* activar =
         casilla("chkSalvadoAutomatico", "Activar &Salvado Automático", &Opciones::chkSalvadoAutomatico);
     auto* minutos =

@@ -102,6 +102,13 @@ TEST_F(OpcionesFormaCampos, LaHojaYLaCuadriculaSeSeleccionanAlTomarElFoco) {
     }
 }
 
+TEST_F(OpcionesFormaCampos, ElTabuladorLosRecorreEnOrden) {
+    EXPECT_EQ(recorridoTab(forma),
+              QStringList({"TxtAnchoHoja", "TxtAltoHoja", "ChkIman", "ChkVisible", "TxtCuadricula",
+                           "chkSalvadoAutomatico", "txtSalvarCadaXmin", "BttAplicar", "BttCancelar",
+                           "BttPredeterminar", "BttOriginales"}));
+}
+
 TEST_F(OpcionesFormaCampos, LosMinutosNoSeSeleccionan) {
     control(forma, "txtSalvarCadaXmin").setFocus(Qt::TabFocusReason);
     EXPECT_EQ(control<QLineEdit>(forma, "txtSalvarCadaXmin").selectedText(), "");

@@ -209,6 +209,13 @@ TEST_F(ParedPropFormaCampos, AlTomarElFocoSeSeleccionanEnteros) {
     }
 }
 
+TEST_F(ParedPropFormaCampos, ElTabuladorLosRecorreEnOrden) {
+    abrir();
+    EXPECT_EQ(recorridoTab(*forma),
+              QStringList({"txtLongitud", "ChkPredeterminar", "TxtAngulo", "Dial", "Botones_1", "Botones_0",
+                           "TxtInicialX", "TxtInicialY", "Tipo_0", "TxtAnchoMuro"}));
+}
+
 TEST_F(ParedPropFormaCampos, LasCoordenadasSoloSeMuestran) {
     abrir();
     const QString antes = texto(*forma, "TxtInicialX");
@@ -256,6 +263,13 @@ TEST_F(ParedPropFormaDial, UnDobleClicAplicaYCierra) {
     EXPECT_FALSE(forma->isVisible());
     EXPECT_EQ(forma->result(), QDialog::Accepted);
     EXPECT_EQ(pared().Angulo, -45);
+}
+
+TEST_F(ParedPropFormaDial, ElTecladoTambienLlegaALosAngulosNegativos) {
+    abrir();
+    QTest::keyClick(&de("Dial"), Qt::Key_Down);
+    EXPECT_EQ(texto(*forma, "TxtAngulo"), "-15");
+    EXPECT_EQ(encendido(), 8);
 }
 
 TEST_F(ParedPropFormaDial, ElAbanicoVaDeArribaAbajoPasandoPorLaDerecha) {
