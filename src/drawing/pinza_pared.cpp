@@ -63,8 +63,10 @@ void arrastrar(Sesion& sesion, int indice, PinzaDePared cual, float X, float Y) 
     ensuciar(sesion.dibujo, pared);
     Pinza& pinza = *pared.pinzas()[static_cast<std::size_t>(cual)];
     Movimiento(sesion.dibujo.arrastre, pinza.Left, pinza.Top, X, Y);
+    const Pinza bajoElPuntero = pinza;  // only the other two are placed by offsets, which round
     seguirA(sesion, pared, cual);
     colocar(sesion.DesfaseGrips, otrasPinzas(pared), pared.ParedPick);
+    pinza = bajoElPuntero;
     MoverPared(sesion, indice);
 }
 

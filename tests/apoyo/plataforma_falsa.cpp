@@ -1,0 +1,82 @@
+#include "apoyo/plataforma_falsa.h"
+
+#include "drawing/entrada.h"
+#include "drawing/opciones.h"
+#include "walls/pared_prop.h"
+
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace bosquel::apoyo {
+
+namespace {
+
+constexpr int turnosDeSobra = 1000;
+
+Respuesta alCerrar(Botones botones) {
+    switch (botones) {
+        case Botones::aceptar: return Respuesta::aceptar;
+        case Botones::siNo: return Respuesta::no;
+        case Botones::siNoCancelar: return Respuesta::cancelar;
+    }
+    return Respuesta::cancelar;
+}
+
+template <class Cosa>
+Cosa sacar(std::deque<Cosa>& cola) {
+    Cosa primera = std::move(cola.front());
+    cola.pop_front();
+    return primera;
+}
+
+}  // namespace
+
+Respuesta PlataformaFalsa::mensaje(const Mensaje& mensaje) {
+    mensajes.push_back(mensaje);
+    if (mensaje.botones == Botones::aceptar) return Respuesta::aceptar;
+    if (alPreguntar) return alPreguntar(mensaje);
+    if (!respuestas.empty()) return sacar(respuestas);
+    ADD_FAILURE() << "a question that nobody answers: " << mensaje.texto;
+    return alCerrar(mensaje.botones);
+}
+
+void PlataformaFalsa::mostrar(Entrada& dialogo) {
+    ++entradas;
+    if (alAbrirEntrada) alAbrirEntrada(dialogo);
+}
+
+void PlataformaFalsa::mostrar(Opciones& dialogo) {
+    ++dialogosDeOpciones;
+    if (alAbrirOpciones) alAbrirOpciones(dialogo);
+}
+
+void PlataformaFalsa::mostrar(ParedProp& dialogo) {
+    ++dialogosDePared;
+    if (alAbrirPared)
+        alAbrirPared(dialogo);
+    else
+        dialogo.Cancelar();
+}
+
+std::optional<std::filesystem::path> PlataformaFalsa::elegirArchivo(const PeticionArchivo& peticion) {
+    peticiones.push_back(peticion);
+    if (archivos.empty()) return std::nullopt;
+    auto ruta = sacar(archivos);
+    return ruta.empty() ? std::nullopt : std::optional(std::move(ruta));
+}
+
+void PlataformaFalsa::cederEventos() {
+    if (++turnos > turnosDeSobra) throw std::runtime_error("a wait loop that nothing ends");
+    if (alCederEventos) alCederEventos();
+}
+
+void PlataformaFalsa::activar(Reloj, bool activo) {
+    autoSave.push_back(activo);
+}
+
+void PlataformaFalsa::repintar(const ZonaSucia& zona, const ZonaSucia& paso) {
+    repintados.push_back(zona);
+    pasos.push_back(paso);
+}
+
+}  // namespace bosquel::apoyo

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/plataforma.h"
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+namespace bosquel::apoyo {
+
+/// A platform without windows: it plays what the test has laid out for it and remembers what it was asked.
+class PlataformaFalsa : public Plataforma {
+  public:
+    // What the user will do. A question without an answer fails the test; a dialog without a hand is closed
+    // by its close box.
+    std::deque<Respuesta> respuestas;
+    std::function<Respuesta(const Mensaje&)> alPreguntar;  ///< answers in the place of `respuestas`
+    std::deque<std::filesystem::path> archivos;            ///< an empty path, or none left, is a cancel
+    std::function<void(Entrada&)> alAbrirEntrada;
+    std::function<void(Opciones&)> alAbrirOpciones;
+    std::function<void(ParedProp&)> alAbrirPared;
+    std::function<void()> alCederEventos;
+
+    // What has been asked.
+    std::vector<Mensaje> mensajes;
+    std::vector<PeticionArchivo> peticiones;
+    std::vector<Cursor> cursores;
+    std::vector<std::string> titulos;
+    std::vector<bool> relojesDeArena;
+    std::vector<bool> autoSave;  ///< what the timer was told, on or off
+    std::vector<ZonaSucia> repintados, pasos;
+    int turnos = 0;  ///< of waiting, since somebody last set it back
+    int entradas = 0, dialogosDePared = 0, dialogosDeOpciones = 0;
+    int vistas = 0;
+    bool terminado = false;
+
+    Cursor cursor() const { return cursores.empty() ? Cursor::Cruz : cursores.back(); }
+    std::string titulo() const { return titulos.empty() ? std::string{} : titulos.back(); }
+    bool relojDeArena() const { return !relojesDeArena.empty() && relojesDeArena.back(); }
+    bool autoSaveActivo() const { return !autoSave.empty() && autoSave.back(); }
+
+    Respuesta mensaje(const Mensaje& mensaje) override;
+    void mostrar(Entrada& dialogo) override;
+    void mostrar(Opciones& dialogo) override;
+    void mostrar(ParedProp& dialogo) override;
+    std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) override;
+    void cederEventos() override;
+    void activar(Reloj reloj, bool activo) override;
+    void ponerCursor(Cursor cursor) override { cursores.push_back(cursor); }
+    void ponerRelojDeArena(bool puesto) override { relojesDeArena.push_back(puesto); }
+    void ponerTitulo(const std::string& titulo) override { titulos.push_back(titulo); }
+    void vistaCambiada() override { ++vistas; }
+    void repintar(const ZonaSucia& zona, const ZonaSucia& paso) override;
+    void terminar() override { terminado = true; }
+};
+
+}  // namespace bosquel::apoyo

@@ -1,0 +1,88 @@
+#include "model/coleccion.h"
+
+#include <gtest/gtest.h>
+#include <string>
+#include <utility>
+#include <vector>
+
+using bosquel::Coleccion;
+
+namespace {
+
+using Visitas = std::vector<std::pair<int, std::string>>;
+
+Visitas visitas(Coleccion<std::string>& coleccion, int desde, int hasta) {
+    Visitas visitas;
+    coleccion.recorrer(desde, hasta,
+                       [&](int i, const std::string& texto) { visitas.emplace_back(i, texto); });
+    return visitas;
+}
+
+}  // namespace
+
+TEST(Coleccion, EmpiezaConElModeloYElContadorEnUno) {
+    const Coleccion<std::string> coleccion;
+    EXPECT_EQ(coleccion.contador, 1);
+    EXPECT_EQ(coleccion.ultimo(), 0);
+    EXPECT_TRUE(coleccion.existe(0));
+    EXPECT_EQ(coleccion.en(0), &coleccion.modelo());
+    for (const int indice : {-32768, -1, 1, 32767})
+        EXPECT_EQ(coleccion.en(indice), nullptr) << indice;
+}
+
+TEST(Coleccion, LoNuevoEsUnaCopiaDelModelo) {
+    Coleccion<std::string> coleccion;
+    coleccion.modelo() = "modelo";
+    EXPECT_EQ(coleccion.crear(5), "modelo");
+    coleccion.en(5)->append(" cambiado");
+    EXPECT_EQ(coleccion.modelo(), "modelo");
+    EXPECT_EQ(coleccion.ultimo(), 5);
+}
+
+TEST(Coleccion, QuitarDejaUnHuecoYNoTocaElContadorNiElModelo) {
+    Coleccion<std::string> coleccion;
+    coleccion.crear(1);
+    coleccion.crear(2);
+    coleccion.contador = 3;
+    for (const int indice : {-1, 0, 2, 2, 9})
+        coleccion.quitar(indice);
+    EXPECT_TRUE(coleccion.existe(0));
+    EXPECT_TRUE(coleccion.existe(1));
+    EXPECT_FALSE(coleccion.existe(2));
+    EXPECT_EQ(coleccion.ultimo(), 1);
+    EXPECT_EQ(coleccion.contador, 3);
+}
+
+TEST(Coleccion, UnPasoVisitaLoQueHayEnOrdenYCallaLosHuecos) {
+    Coleccion<std::string> coleccion;
+    coleccion.modelo() = "m";
+    for (const int i : {4, 1, 3, 2})
+        coleccion.crear(i) = std::to_string(i);
+    coleccion.quitar(2);
+    EXPECT_EQ(visitas(coleccion, 0, 4), (Visitas{{0, "m"}, {1, "1"}, {3, "3"}, {4, "4"}}));
+    EXPECT_EQ(visitas(coleccion, 1, 3), (Visitas{{1, "1"}, {3, "3"}}));
+    EXPECT_EQ(visitas(coleccion, -7, 32767).size(), 4U);
+    EXPECT_TRUE(visitas(coleccion, 1, -6).empty());
+}
+
+TEST(Coleccion, UnPasoPuedeQuitarLoQueVisitaYLoQueViene) {
+    Coleccion<std::string> coleccion;
+    for (const int i : {1, 2, 3})
+        coleccion.crear(i);
+    std::vector<int> visitados;
+    coleccion.recorrer([&](int i, std::string&) {
+        visitados.push_back(i);
+        coleccion.quitar(i);
+        coleccion.quitar(2);
+    });
+    EXPECT_EQ(visitados, (std::vector{1, 3}));
+    EXPECT_EQ(coleccion.ultimo(), 0);
+}
+
+TEST(Coleccion, LasReferenciasSobrevivenALoQueSeCrea) {
+    Coleccion<std::string> coleccion;
+    const std::string& primera = coleccion.crear(1);
+    for (int i = 2; i < 2000; ++i)
+        coleccion.crear(i);
+    EXPECT_EQ(&primera, coleccion.en(1));
+}
