@@ -95,7 +95,7 @@ void PlanoDeReferencia::alargar(Linea& l) const {
 }
 
 void PlanoDeReferencia::une1331() {
-    ++pares;
+    pares.emplace_back("1331");
     puntoUnion(paredUno_->l1, paredDos_->l3);
     alargar(paredUno_->l1);
     alargar(paredDos_->l3);
@@ -105,7 +105,7 @@ void PlanoDeReferencia::une1331() {
 }
 
 void PlanoDeReferencia::une1133() {
-    ++pares;
+    pares.emplace_back("1133");
     puntoUnion(paredUno_->l1, paredDos_->l1);
     alargar(paredUno_->l1);
     alargar(paredDos_->l1);
@@ -149,6 +149,8 @@ std::string PlanoDeReferencia::esquina(int uno, int dos) {
     paredDos_ = &muros.at(dos);
     const int a = paredUno_->angulo, b = paredDos_->angulo;
     if (a == b || std::abs(a) + std::abs(b) == 180) return "paralelas";
+    pares.clear();
+    cuartos.clear();
     const Linea& a1 = paredUno_->l1;
     const Linea& b1 = paredDos_->l1;
     const double mA = (static_cast<double>(a1.x2) - a1.x1) / 2 + a1.x1;
@@ -208,26 +210,35 @@ void PlanoDeReferencia::esquina90() {
     const double nB = (static_cast<double>(b1.y2) - b1.y1) / 2 + b1.y1;
     puntoUnion(a1, b1);
     if (es90(a) && b >= 0) {
-        if (py > nA && px < mB) une1331();
-        if (py < nA && px > mB) une1331();
-        if (py > nA && px > mB) une1133();
-        if (py < nA && px < mB) une1133();
+        enCuarto(1, py > nA && px < mB, true);
+        enCuarto(2, py < nA && px > mB, true);
+        enCuarto(3, py > nA && px > mB, false);
+        enCuarto(4, py < nA && px < mB, false);
     } else if (es90(a)) {
-        if (py > nA && px < mB) une1133();
-        if (py < nA && px > mB) une1133();
-        if (py > nA && px > mB) une1331();
-        if (py < nA && px < mB) une1331();
+        enCuarto(1, py > nA && px < mB, false);
+        enCuarto(2, py < nA && px > mB, false);
+        enCuarto(3, py > nA && px > mB, true);
+        enCuarto(4, py < nA && px < mB, true);
     } else if (a >= 0) {
-        if (py < nB && px > mA) une1331();
-        if (py > nB && px < mA) une1331();
-        if (py > nB && px > mA) une1133();
-        if (py < nB && px < mA) une1133();
+        enCuarto(1, py < nB && px > mA, true);
+        enCuarto(2, py > nB && px < mA, true);
+        enCuarto(3, py > nB && px > mA, false);
+        enCuarto(4, py < nB && px < mA, false);
     } else {
-        if (py < nB && px > mA) une1133();
-        if (py > nB && px < mA) une1133();
-        if (py > nB && px > mA) une1331();
-        if (py < nB && px < mA) une1331();
+        enCuarto(1, py < nB && px > mA, false);
+        enCuarto(2, py > nB && px < mA, false);
+        enCuarto(3, py > nB && px > mA, true);
+        enCuarto(4, py < nB && px < mA, true);
     }
+}
+
+void PlanoDeReferencia::enCuarto(int cual, bool cumple, bool cruzada) {
+    if (!cumple) return;
+    cuartos.push_back(cual);
+    if (cruzada)
+        une1331();
+    else
+        une1133();
 }
 
 std::string PlanoDeReferencia::unir(int uno, int dos) {

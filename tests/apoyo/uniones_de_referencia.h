@@ -4,6 +4,7 @@
 
 #include <map>
 #include <string>
+#include <vector>
 
 namespace bosquel::apoyo {
 
@@ -37,7 +38,10 @@ class PlanoDeReferencia {
     /// the test that chose it, 1 to 5, is left in `columna`.
     std::string unir(int uno, int dos);
     int columna = 0;
-    int pares = 0;  ///< how often a corner has paired lines
+    /// How the last corner has paired lines, "1331" or "1133", and by which of the four tests with an upright
+    /// wall; a corner may pair more than once.
+    std::vector<std::string> pares;
+    std::vector<int> cuartos;
 
     void agrupar(int uno, int dos);
 
@@ -51,6 +55,7 @@ class PlanoDeReferencia {
     void une1331();
     void une1133();
     void esquina90();
+    void enCuarto(int cual, bool cumple, bool cruzada);
     void medirLongitud(Muro& muro) const;
     std::string elegir(const Linea& a1, const Linea& b1);
 
