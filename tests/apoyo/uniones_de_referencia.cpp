@@ -33,7 +33,9 @@ PlanoDeReferencia::PlanoDeReferencia(const Dibujo& dibujo)
                     .longitud = pared.Longitud,
                     .grupo = pared.NumeroGrupo,
                     .tapa1 = pared.Visible1,
-                    .tapa2 = pared.Visible2};
+                    .tapa2 = pared.Visible2,
+                    .vista1 = pared.lineas[1].Visible,
+                    .vista2 = pared.lineas[3].Visible};
     });
 }
 
@@ -126,6 +128,11 @@ void PlanoDeReferencia::medirLongitud(Muro& m) const {
         m.longitud = (corrida1 / coseno / factor + corrida3 / coseno / factor) / 2;
 }
 
+void PlanoDeReferencia::verTapas(Muro& m) {
+    m.vista1 = m.tapa1;
+    m.vista2 = m.tapa2;
+}
+
 void PlanoDeReferencia::agrupar(int uno, int dos) {
     const int g1 = muros[uno].grupo, g2 = muros[dos].grupo;
     if (g1 == 0 && g2 == 0) {
@@ -198,6 +205,8 @@ std::string PlanoDeReferencia::esquina(int uno, int dos) {
     agrupar(uno, dos);
     medirLongitud(*paredUno_);
     medirLongitud(*paredDos_);
+    verTapas(*paredUno_);
+    verTapas(*paredDos_);
     return "esquina";
 }
 
@@ -333,8 +342,8 @@ void comparar(const Dibujo& dibujo, const PlanoDeReferencia& plano) {
         EXPECT_EQ((Linea{tres.X1, tres.Y1, tres.X2, tres.Y2}), muro.l3);
         EXPECT_EQ((Linea{p->InicialX, p->InicialY, p->Linea1X2, p->Linea1Y2}), muro.l1);
         EXPECT_EQ((Linea{p->Linea3X1, p->Linea3Y1, p->Linea3X2, p->Linea3Y2}), muro.l3);
-        EXPECT_EQ(p->lineas[1], (Segmento{muro.l1.x1, muro.l1.y1, muro.l3.x1, muro.l3.y1, muro.tapa1}));
-        EXPECT_EQ(p->lineas[3], (Segmento{muro.l1.x2, muro.l1.y2, muro.l3.x2, muro.l3.y2, muro.tapa2}));
+        EXPECT_EQ(p->lineas[1], (Segmento{muro.l1.x1, muro.l1.y1, muro.l3.x1, muro.l3.y1, muro.vista1}));
+        EXPECT_EQ(p->lineas[3], (Segmento{muro.l1.x2, muro.l1.y2, muro.l3.x2, muro.l3.y2, muro.vista2}));
         EXPECT_EQ(p->Visible1, muro.tapa1);
         EXPECT_EQ(p->Visible2, muro.tapa2);
         EXPECT_EQ(p->Longitud, muro.longitud);

@@ -21,7 +21,8 @@ class PlanoDeReferencia {
         int angulo = 0;
         double longitud = 0;
         int grupo = 0;
-        bool tapa1 = true, tapa2 = true;
+        bool tapa1 = true, tapa2 = true;    ///< what the wall says of its caps
+        bool vista1 = true, vista2 = true;  ///< what is seen of them: a redrawn wall shows both
     };
 
     /// Takes walls, groups and the last crossing from a drawing.
@@ -57,6 +58,7 @@ class PlanoDeReferencia {
     void esquina90();
     void enCuarto(int cual, bool cumple, bool cruzada);
     void medirLongitud(Muro& muro) const;
+    static void verTapas(Muro& muro);
     std::string elegir(const Linea& a1, const Linea& b1);
 
     void nombrarMenor();

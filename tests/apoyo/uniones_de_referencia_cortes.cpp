@@ -142,6 +142,7 @@ void PlanoDeReferencia::pieza(const Muro& de, Punto uno, Punto tres) {
     n.l3.y1 = f(tres.y);
     n.tapa1 = false;
     medirLongitud(n);
+    verTapas(n);
     muros[numPared] = n;
     ++numPared;
 }
@@ -153,6 +154,7 @@ void PlanoDeReferencia::cortarInicio(Muro& muro, Punto uno, Punto tres) {
     muro.l3.y1 = f(tres.y);
     muro.tapa1 = false;
     medirLongitud(muro);
+    verTapas(muro);
 }
 
 void PlanoDeReferencia::cortarFinal(Muro& muro, Punto uno, Punto tres) {
@@ -162,6 +164,7 @@ void PlanoDeReferencia::cortarFinal(Muro& muro, Punto uno, Punto tres) {
     muro.l3.y2 = f(tres.y);
     muro.tapa2 = false;
     medirLongitud(muro);
+    verTapas(muro);
 }
 
 }  // namespace bosquel::apoyo

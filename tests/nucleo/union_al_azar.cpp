@@ -47,6 +47,7 @@ class Usuario {
 
     void comprueba() {
         banco_.dibujo().Pared.recorrer([&](int i, const Pared& p) {
+            if (!p.lineas[0].Visible) return;  // it waits for its place
             SCOPED_TRACE("wall " + std::to_string(i));
             compruebaNumeros(p);
             compruebaTapas(p);
