@@ -1,6 +1,5 @@
 #include "apoyo/banco.h"
-#include "apoyo/uniones_muros.h"
-#include "walls/union.h"
+#include "walls/pared.h"
 
 #include <gtest/gtest.h>
 
@@ -30,9 +29,9 @@ void separa(Banco& banco, int pared) {
 }
 
 /// The four lines of a wall as its fields alone would have them.
-std::array<Segmento, 4> comoNueva(const Banco& banco, const Pared& pared) {
+std::array<Segmento, 4> comoNueva(const Pared& pared, double factor) {
     Dibujo dibujo;
-    dibujo.FactorZoomActual = const_cast<Banco&>(banco).dibujo().FactorZoomActual;
+    dibujo.FactorZoomActual = factor;
     dibujo.Pared.crear(1) = pared;
     DibujaPared(dibujo, 1, false);
     return dibujo.Pared.en(1)->lineas;
@@ -86,7 +85,7 @@ TEST(Separar, CadaPiezaQuedaLibreYRectangularDondeEmpieza) {
         EXPECT_EQ(pared.InicialX, anterior.InicialX);
         EXPECT_EQ(pared.InicialY, anterior.InicialY);
         EXPECT_EQ(pared.Longitud, anterior.Longitud);
-        EXPECT_EQ(pared.lineas, comoNueva(banco, anterior));
+        EXPECT_EQ(pared.lineas, comoNueva(anterior, banco.dibujo().FactorZoomActual));
         EXPECT_TRUE(pared.lineas[1].Visible);
         EXPECT_TRUE(pared.lineas[3].Visible);
     }
