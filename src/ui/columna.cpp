@@ -3,6 +3,7 @@
 #include "ui/boton.h"
 #include "ui/textos.h"
 
+#include <functional>
 #include <span>
 
 namespace bosquel {
@@ -112,7 +113,7 @@ void Columna::ponerPaletas(int y) {
         const auto botones = ponerBotones(paleta.grupo, paleta.botones, paleta.imagenes, panel, 0);
         for (std::size_t i = 0; paleta.pulsar && i < botones.size(); ++i)
             connect(botones[i], &Boton::clicked, this,
-                    [this, &paleta, i] { (bosquel_.*paleta.pulsar)(static_cast<int>(i)); });
+                    [this, &paleta, i] { std::invoke(paleta.pulsar, bosquel_, static_cast<int>(i)); });
         paneles_.push_back(panel);
     }
 }

@@ -1,6 +1,7 @@
 #include "apoyo/banco.h"
 #include "apoyo/idioma.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <random>
@@ -188,13 +189,16 @@ TEST_P(Azar, HagaLoQueHagaElUsuarioElDibujoSigueEntero) {
     const Idioma idioma(GetParam() % 2 == 0 ? Idioma::espanol : Idioma::ingles);
     Banco banco;
     Usuario usuario(banco, GetParam());
+    int muros = 0;
     for (int paso = 1; paso <= 2000; ++paso) {
         ASSERT_NO_THROW(usuario.actua()) << "step " << paso;
         ASSERT_NO_FATAL_FAILURE(esperarEntero(banco)) << "step " << paso;
+        muros = std::max(muros, static_cast<int>(banco.dibujo().Pared.contador));
         if (paso % 250 == 0) {
             ASSERT_NO_FATAL_FAILURE(esperarQueVuelva(banco)) << "step " << paso;
         }
     }
+    EXPECT_GT(muros, 20) << "a user who drew nothing has shown nothing";
 }
 
 INSTANTIATE_TEST_SUITE_P(Semillas, Azar, testing::Range(1U, 9U));

@@ -117,6 +117,15 @@ TEST(Salir, ContestadoQueNoDejaLaCompuertaCerradaHastaLaOrdenSiguiente) {
     EXPECT_FALSE(banco.sesion().Ocupado);
 }
 
+TEST(Salir, LaCajaDeCierreTerminaSinPreguntar) {
+    Banco banco;
+    banco.ponMuro();
+    banco.bosquel.cerrar();
+    EXPECT_TRUE(banco.plataforma.terminado);
+    EXPECT_TRUE(banco.plataforma.mensajes.empty());
+    EXPECT_EQ(banco.carpeta.cuantos(), 0);
+}
+
 TEST(Eliminar, QuitaElMuroSeleccionadoYElContadorSigue) {
     Banco banco;
     banco.ponMuro();
