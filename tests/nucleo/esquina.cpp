@@ -4,7 +4,6 @@
 #include "apoyo/uniones_muros.h"
 
 #include <gtest/gtest.h>
-#include <set>
 
 namespace bosquel::apoyo {
 

@@ -2,9 +2,10 @@
 #include "apoyo/uniones_muros.h"
 #include "walls/union.h"
 
-#include <functional>
+#include <array>
 #include <gtest/gtest.h>
-#include <set>
+#include <ostream>
+#include <string>
 
 namespace bosquel::apoyo {
 
@@ -87,7 +88,7 @@ INSTANTIATE_TEST_SUITE_P(Tabla, UnionFila, testing::ValuesIn(filas));
 
 namespace {
 
-class UnionSinCorte : public testing::TestWithParam<std::pair<ClaseDePrueba, ClaseDePrueba>> {};
+class UnionSinCorte : public testing::TestWithParam<Fila> {};
 
 }  // namespace
 
@@ -95,7 +96,7 @@ TEST_P(UnionSinCorte, SoloAgrupa) {
     Azar azar(11);
     int veces = 0;
     for (int i = 0; i < 2000; ++i) {
-        Dibujo dibujo = alAzar(azar, GetParam().first, GetParam().second);
+        Dibujo dibujo = alAzar(azar, GetParam().a, GetParam().b);
         PlanoDeReferencia plano(dibujo);
         if (encuentroDeParedes(dibujo) != Encuentro::cruce) continue;
         ++veces;
@@ -108,9 +109,8 @@ TEST_P(UnionSinCorte, SoloAgrupa) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Tabla, UnionSinCorte,
-                         testing::Values(std::pair{Neg, Neg}, std::pair{Menos90, Cero},
-                                         std::pair{Menos90, Pos}, std::pair{Menos90, Neg},
-                                         std::pair{ClaseDePrueba{"120", 91, 135}, Cero},
-                                         std::pair{Pos, ClaseDePrueba{"-120", -135, -91}}));
+                         testing::Values(Fila{Neg, Neg, {}}, Fila{Menos90, Cero, {}}, Fila{Menos90, Pos, {}},
+                                         Fila{Menos90, Neg, {}}, Fila{{"beyond 90", 91, 135}, Cero, {}},
+                                         Fila{Pos, {"beyond -90", -135, -91}, {}}));
 
 }  // namespace bosquel::apoyo
