@@ -10,7 +10,7 @@ namespace bosquel {
 
 /// A group of buttons, and what a click on one of them does.
 struct GrupoDeBotones {
-    const char* nombre;
+    const char* nombre = nullptr;
     std::span<const BotonDePaleta> botones;
     std::span<const char* const> imagenes = {};
     void (Bosquel::*pulsar)(int) = nullptr;
@@ -36,7 +36,7 @@ constexpr GrupoDeBotones relaciones{"BttOperacion", BttOperacion, imagenesRelaci
 constexpr GrupoDeBotones selector{"BttTipo", BttTipo, imagenesTipo, &Bosquel::pulsarTipo};
 
 struct PaletaDeBotones {
-    const char* panel;
+    const char* panel = nullptr;
     GrupoDeBotones grupo;
 };
 

@@ -111,7 +111,7 @@ QCursor cursor(Cursor rol, qreal escala) {
         }
         return {};
     }();
-    if (dibujo.nombre.isEmpty()) return QCursor(Qt::ArrowCursor);
+    if (dibujo.nombre.isEmpty()) return {Qt::ArrowCursor};
 
     constexpr int lado = 32;
     const int pixeles = qRound(lado * escala);

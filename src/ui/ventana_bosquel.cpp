@@ -71,27 +71,47 @@ QScrollBar* crearBarra(const QString& nombre, const QString& accesible, Qt::Orie
     return barra;
 }
 
+/// The bar follows the session without telling it so.
+void mostrarBarra(QScrollBar& barra, const Barra& estado) {
+    const QSignalBlocker callada(barra);
+    barra.setEnabled(estado.activa);
+    barra.setValue(estado.valor);
+}
+
 }  // namespace
 
 VentanaBosquel::VentanaBosquel(Bosquel& bosquel) : bosquel_(bosquel) {
     setObjectName("Bosquel");
     setMouseTracking(true);
     setMinimumSize(tamanoMinimo);
+    // The Tab key goes the way in which things are made.
     ponerFranja();
-    columna_ = new Columna(bosquel_, this);
+    ponerColumna();
     ponerVisor();
+    ponerPie();
+    ponerRelojes();
+    qApp->installEventFilter(this);
+    const QSize pantalla = QGuiApplication::primaryScreen()->availableSize();
+    resize((pantalla * 0.92).boundedTo(tamanoMaximo).expandedTo(tamanoMinimo));
+}
+
+void VentanaBosquel::ponerColumna() {
+    columna_ = new Columna(bosquel_, this);
+}
+
+void VentanaBosquel::ponerPie() {
     estado_ = new QLabel(this);
     estado_->setObjectName("lblEstado");
     escala_ = new QLabel(this);
     escala_->setObjectName("lblEscala");
     escala_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void VentanaBosquel::ponerRelojes() {
     tmrAutoSave_ = new QTimer(this);
     tmrAutoSave_->setObjectName("tmrAutoSave");
     tmrAutoSave_->setInterval(60000);
     connect(tmrAutoSave_, &QTimer::timeout, this, [this] { bosquel_.minutoDeAutoSave(); });
-    qApp->installEventFilter(this);
-    const QSize pantalla = QGuiApplication::primaryScreen()->availableSize();
-    resize((pantalla * 0.92).boundedTo(tamanoMaximo).expandedTo(tamanoMinimo));
 }
 
 void VentanaBosquel::ponerFranja() {
@@ -154,12 +174,6 @@ void VentanaBosquel::resizeEvent(QResizeEvent*) {
     mostrarVista();
 }
 
-void VentanaBosquel::mostrarBarra(QScrollBar& barra, const Barra& estado) {
-    const QSignalBlocker callada(barra);
-    barra.setEnabled(estado.activa);
-    barra.setValue(estado.valor);
-}
-
 void VentanaBosquel::mostrarVista() {
     const Sesion& sesion = bosquel_.sesion();
     const QRect antes = hoja_->geometry();
@@ -190,7 +204,8 @@ bool VentanaBosquel::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() != QEvent::KeyPress) return false;
     const auto* control = qobject_cast<QWidget*>(objeto);
     if (!control || control->window() != this) return false;
-    if (static_cast<QKeyEvent*>(evento)->key() != Qt::Key_Delete) return false;
+    const auto* tecla = dynamic_cast<QKeyEvent*>(evento);
+    if (!tecla || tecla->key() != Qt::Key_Delete) return false;
     bosquel_.suprimir();
     return true;
 }

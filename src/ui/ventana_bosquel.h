@@ -36,9 +36,11 @@ class VentanaBosquel final : public QWidget {
 
   private:
     void ponerFranja();
+    void ponerColumna();
     void ponerVisor();
+    void ponerPie();
+    void ponerRelojes();
     void colocarBotones();
-    void mostrarBarra(QScrollBar& barra, const Barra& estado);
 
     Bosquel& bosquel_;
     QWidget* franja_ = nullptr;
