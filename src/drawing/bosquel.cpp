@@ -102,6 +102,11 @@ void Bosquel::cruzarVentana() {
     QuitarBordeElevado(sesion_);
 }
 
+void Bosquel::pulsarOperacion(int indice) {
+    const Turno turno(sesion_);
+    bosquel::pulsarOperacion(sesion_, indice);
+}
+
 void Bosquel::pulsarTipo(int indice) {
     const Turno turno(sesion_);
     bosquel::pulsarTipo(sesion_, indice);

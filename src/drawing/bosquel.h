@@ -38,6 +38,7 @@ class Bosquel {
     void pulsarPrincipal(Principal boton);
     void cruzarPrincipal(Principal boton);
     void cruzarVentana();
+    void pulsarOperacion(int indice);
     void pulsarTipo(int indice);
     void pulsarUsuario(int indice);
     void suprimir();

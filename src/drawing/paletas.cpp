@@ -1,6 +1,7 @@
 #include "drawing/paletas.h"
 
 #include "drawing/archivo.h"
+#include "drawing/seleccion.h"
 #include "model/numeros.h"
 
 namespace bosquel {
@@ -18,6 +19,8 @@ constexpr std::array<PaletaDeTipo, 5> paletas{{{0, Paleta::FrMuebles, "Muebles"}
                                                {2, Paleta::FrCocina, "Cocina"},
                                                {3, Paleta::FrUsuario, "Divisiones"},
                                                {5, Paleta::FrElectrico, "Sistema Eléctrico"}}};
+
+constexpr std::array<Modo, 4> operaciones{Modo::Seleccion, Modo::PrimeraPared, Modo::Union1, Modo::Separar};
 
 constexpr std::array<const char*, 3> tiposDePared{"Muro", "Tabique", "Pilar"};
 constexpr double ladoPilar = 300;  // mm
@@ -40,6 +43,16 @@ void crearPared(Sesion& sesion, const char* tipo) {
 }
 
 }  // namespace
+
+void pulsarOperacion(Sesion& sesion, int indice) {
+    if (indice < 0 || static_cast<std::size_t>(indice) >= operaciones.size()) return;
+    QuitarSeleccion(sesion.dibujo);
+    CheckAutoSaving(sesion, true);
+    sesion.dibujo.ModoActual = operaciones[static_cast<std::size_t>(indice)];
+    sesion.plataforma.ponerCursor(Cursor::IcoSeleccion);
+    sesion.vistaSucia = true;
+    CheckAutoSaving(sesion, false);
+}
 
 void pulsarTipo(Sesion& sesion, int indice) {
     CheckAutoSaving(sesion, true);

@@ -13,7 +13,7 @@ struct BotonDePaleta {
 };
 
 inline constexpr std::array<BotonDePaleta, 4> BttOperacion{
-    {{"Paralela"}, {"Esquina"}, {"Union"}, {"Separar"}}};
+    {{"Paralela", true}, {"Esquina", true}, {"Union", true}, {"Separar", true}}};
 
 inline constexpr std::array<BotonDePaleta, 6> BttTipo{{{"Muebles", true},
                                                        {"Baño", true},
@@ -32,6 +32,9 @@ inline constexpr std::array<BotonDePaleta, 6> BttUsuario{
     {{"Muro", true}, {"Tabique", true}, {"Pilar", true}, {"Texto"}, {"Puerta"}, {"Ventana"}}};
 inline constexpr std::array<BotonDePaleta, 6> BttElectrico{
     {{"Luz"}, {"Llave"}, {"Enchufe"}, {"Pulsador"}, {"Señal"}, {"Cuadro"}}};
+
+/// The relations between walls: starts the tool that the button stands for.
+void pulsarOperacion(Sesion& sesion, int indice);
 
 /// The palette selector: shows a palette and its title. The tool in hand goes on.
 void pulsarTipo(Sesion& sesion, int indice);

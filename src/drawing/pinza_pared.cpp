@@ -1,6 +1,7 @@
 #include "drawing/pinza_pared.h"
 
 #include "drawing/arrastre.h"
+#include "drawing/destino_pared.h"
 #include "drawing/seleccion.h"
 #include "drawing/vista.h"
 #include "model/numeros.h"
@@ -179,7 +180,8 @@ void soltarPinzaPared(Sesion& sesion, int indice) {
     terminarMovimiento(sesion);
     Dibujo& dibujo = sesion.dibujo;
     Pared* pared = dibujo.Pared.en(indice);
-    if (!pared || pared->NumeroGrupo != 0 || !dibujo.Iman) return;
+    if (!pared || elegirPared(sesion, indice)) return;
+    if (pared->NumeroGrupo != 0 || !dibujo.Iman) return;
     AlinearPared(sesion, indice);
     for (Pinza* pinza : pared->pinzas())
         alFrente(dibujo, *pinza);

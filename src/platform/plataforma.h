@@ -13,6 +13,7 @@ namespace bosquel {
 
 class Entrada;
 class Opciones;
+class Paralelas;
 class ParedProp;
 
 enum class Icono : std::uint8_t { informacion, pregunta };
@@ -51,6 +52,7 @@ class Plataforma {
     virtual void mostrar(Entrada& dialogo) = 0;
     virtual void mostrar(Opciones& dialogo) = 0;
     virtual void mostrar(ParedProp& dialogo) = 0;
+    virtual void mostrar(Paralelas& dialogo) = 0;
 
     /// The chosen path, as it was typed; nothing if the user cancels.
     virtual std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) = 0;

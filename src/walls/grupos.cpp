@@ -1,8 +1,10 @@
 #include "walls/grupos.h"
 
+#include "model/numeros.h"
 #include "walls/pared.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace bosquel {
 
@@ -29,7 +31,42 @@ void eliminaAbertura(Dibujo& dibujo, Coleccion<Abertura>& coleccion, int indice)
     }
 }
 
+/// The number that both walls take; a new one if neither has any.
+std::int16_t grupoComun(Dibujo& dibujo, std::int16_t uno, std::int16_t dos) {
+    if (uno != 0 && dos != 0) return std::min(uno, dos);
+    if (uno == 0 && dos == 0) {
+        avanzar(dibujo.TotalGrupos);
+        return dibujo.TotalGrupos;
+    }
+    return uno != 0 ? uno : dos;
+}
+
 }  // namespace
+
+void AgruparParedes(Dibujo& dibujo) {
+    Pared* uno = dibujo.Pared.en(dibujo.ParedUno);
+    Pared* dos = dibujo.Pared.en(dibujo.ParedDos);
+    if (!uno || !dos) return;
+    const std::int16_t comun = grupoComun(dibujo, uno->NumeroGrupo, dos->NumeroGrupo);
+    for (Pared* elegida : {uno, dos}) {
+        const std::int16_t anterior = std::exchange(elegida->NumeroGrupo, comun);
+        if (anterior == 0) continue;
+        dibujo.Pared.recorrer([&](int, Pared& pared) {
+            if (pared.NumeroGrupo == anterior) pared.NumeroGrupo = comun;
+        });
+    }
+}
+
+void Desagrupar(Dibujo& dibujo, std::int16_t grupo) {
+    dibujo.Pared.recorrer([&](int i, Pared& pared) {
+        if (pared.NumeroGrupo != grupo) return;
+        pared.Visible1 = true;
+        pared.Visible2 = true;
+        RedibujaPared(dibujo, i, false);
+        pared.NumeroGrupo = 0;
+        EliminaAberturasPared(dibujo, i);
+    });
+}
 
 void EliminaVentana(Dibujo& dibujo, int indice) {
     eliminaAbertura(dibujo, dibujo.Ventana, indice);

@@ -14,6 +14,10 @@ void DibujaPared(Dibujo& dibujo, int indice, bool seleccionada);
 /// `DibujaPared`, but of a wall that may be missing.
 void RedibujaPared(Dibujo& dibujo, int indice, bool seleccionada);
 
+/// Creates a wall of the kind, the widths, the angle and the length of `pared`: free, as good as applied,
+/// with both caps. It has no place and is not drawn yet. Gives its index.
+int CreaParedComo(Dibujo& dibujo, const Pared& pared);
+
 /// Keeps lines 1 and 3 as they are and builds the caps and the grips from them; a cap shows if `Visible1` or
 /// `Visible2` says so.
 void ReconstruyePared(Dibujo& dibujo, int indice);

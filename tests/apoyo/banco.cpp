@@ -34,6 +34,8 @@ void Banco::boton(std::string_view rotulo) {
     turno([&] {
         if (const int i = lugar(BttPrincipal, rotulo); i >= 0)
             bosquel.pulsarPrincipal(static_cast<Principal>(i));
+        else if (const int o = lugar(BttOperacion, rotulo); o >= 0)
+            bosquel.pulsarOperacion(o);
         else if (const int j = lugar(BttUsuario, rotulo); j >= 0)
             bosquel.pulsarUsuario(j);
         else if (const int k = lugar(BttTipo, rotulo); k >= 0)

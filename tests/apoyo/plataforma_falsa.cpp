@@ -2,6 +2,7 @@
 
 #include "drawing/entrada.h"
 #include "drawing/opciones.h"
+#include "walls/paralelas.h"
 #include "walls/pared_prop.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +57,11 @@ void PlataformaFalsa::mostrar(ParedProp& dialogo) {
         alAbrirPared(dialogo);
     else
         dialogo.Cancelar();
+}
+
+void PlataformaFalsa::mostrar(Paralelas& dialogo) {
+    ++dialogosDeParalelas;
+    if (alAbrirParalelas) alAbrirParalelas(dialogo);
 }
 
 std::optional<std::filesystem::path> PlataformaFalsa::elegirArchivo(const PeticionArchivo& peticion) {

@@ -19,6 +19,7 @@ class PlataformaFalsa : public Plataforma {
     std::function<void(Entrada&)> alAbrirEntrada;
     std::function<void(Opciones&)> alAbrirOpciones;
     std::function<void(ParedProp&)> alAbrirPared;
+    std::function<void(Paralelas&)> alAbrirParalelas;
     std::function<void()> alCederEventos;
 
     // What has been asked.
@@ -30,7 +31,7 @@ class PlataformaFalsa : public Plataforma {
     std::vector<bool> autoSave;  ///< what the timer was told, on or off
     std::vector<ZonaSucia> repintados, pasos;
     int turnos = 0;  ///< of waiting, since somebody last set it back
-    int entradas = 0, dialogosDePared = 0, dialogosDeOpciones = 0;
+    int entradas = 0, dialogosDePared = 0, dialogosDeOpciones = 0, dialogosDeParalelas = 0;
     int vistas = 0;
     bool terminado = false;
 
@@ -43,6 +44,7 @@ class PlataformaFalsa : public Plataforma {
     void mostrar(Entrada& dialogo) override;
     void mostrar(Opciones& dialogo) override;
     void mostrar(ParedProp& dialogo) override;
+    void mostrar(Paralelas& dialogo) override;
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) override;
     void cederEventos() override;
     void activar(Reloj reloj, bool activo) override;

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "drawing/sesion.h"
+
+namespace bosquel {
+
+/// The release on a wall in a mode in which the wall is the target of a command: parallel, corner, union and
+/// separate. The command runs, or waits for its second wall. False if the mode is none of theirs.
+bool elegirPared(Sesion& sesion, int indice);
+
+}  // namespace bosquel
