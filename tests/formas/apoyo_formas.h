@@ -17,7 +17,10 @@ class PlataformaMuda : public Plataforma {
     Respuesta mensaje(const Mensaje&) override { return Respuesta::cancelar; }
     void mostrar(Entrada&) override {}
     void mostrar(Opciones&) override {}
+    void mostrar(Paralelas&) override {}
     void mostrar(ParedProp&) override {}
+    void mostrar(PuertaProp&) override {}
+    void mostrar(VentanaProp&) override {}
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo&) override {
         return std::nullopt;
     }
