@@ -1,8 +1,11 @@
 #pragma once
 
+#include "model/numeros.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <deque>
+#include <limits>
 #include <optional>
 
 namespace bosquel {
@@ -33,6 +36,15 @@ class Coleccion {
     T& crear(int indice) {
         if (posicion(indice) >= huecos_.size()) huecos_.resize(posicion(indice) + 1);
         return huecos_[posicion(indice)].emplace(modelo());
+    }
+
+    /// A copy of the model at the counter's index; the counter goes on. Nothing where a file has left the
+    /// counter at no index, or at the last one.
+    T* crearSiguiente() {
+        const bool hayIndice = contador > 0 && contador < std::numeric_limits<std::int16_t>::max();
+        T* nuevo = hayIndice ? &crear(contador) : nullptr;
+        avanzar(contador);
+        return nuevo;
     }
 
     /// Leaves a hole; the model stays.

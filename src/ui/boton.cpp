@@ -87,6 +87,8 @@ void Boton::paintEvent(QPaintEvent*) {
 void Boton::mouseMoveEvent(QMouseEvent* evento) {
     emit cruzado();
     QAbstractButton::mouseMoveEvent(evento);
+    // The window below is not what the pointer moves over.
+    evento->accept();
 }
 
 void Boton::changeEvent(QEvent* evento) {

@@ -1,6 +1,5 @@
 #include "ui/campo_numero.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -70,13 +69,23 @@ void CampoNumero::changeEvent(QEvent* suceso) {
     QLineEdit::changeEvent(suceso);
 }
 
+/// The line edit's own menu would paste past the filter, and in the language of the desktop.
 void CampoNumero::contextMenuEvent(QContextMenuEvent* suceso) {
-    QMenu* menu = createStandardContextMenu();
+    auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (auto* accion = menu->findChild<QAction*>("edit-paste")) {
-        disconnect(accion, &QAction::triggered, nullptr, nullptr);
-        connect(accion, &QAction::triggered, this, &CampoNumero::pegar);
-    }
+    const bool escribible = !isReadOnly();
+    const bool elegido = hasSelectedText();
+    const auto orden = [&](const char* rotulo, auto hacer, bool posible) {
+        menu->addAction(rotulo, this, hacer)->setEnabled(posible);
+    };
+    orden("&Deshacer", &QLineEdit::undo, escribible && isUndoAvailable());
+    orden("&Rehacer", &QLineEdit::redo, escribible && isRedoAvailable());
+    menu->addSeparator();
+    orden("Cor&tar", &QLineEdit::cut, escribible && elegido);
+    orden("&Copiar", &QLineEdit::copy, elegido);
+    orden("&Pegar", &CampoNumero::pegar, escribible && !QApplication::clipboard()->text().isEmpty());
+    menu->addSeparator();
+    orden("&Seleccionar todo", &QLineEdit::selectAll, !text().isEmpty());
     menu->popup(suceso->globalPos());
 }
 

@@ -3,6 +3,7 @@
 #include "ui/boton.h"
 #include "ui/textos.h"
 
+#include <functional>
 #include <span>
 
 namespace bosquel {
@@ -81,6 +82,7 @@ QLabel* ponerRotulo(const QString& nombre, const QString& rotulo, QWidget* padre
 }  // namespace
 
 Columna::Columna(Bosquel& bosquel, QWidget* padre) : QWidget(padre), bosquel_(bosquel) {
+    setMouseTracking(true);
     int y = margen;
     ponerRotulo("lblRelaciones", "Relaciones", this, y);
     y += altoRotulo;
@@ -111,7 +113,7 @@ void Columna::ponerPaletas(int y) {
         const auto botones = ponerBotones(paleta.grupo, paleta.botones, paleta.imagenes, panel, 0);
         for (std::size_t i = 0; paleta.pulsar && i < botones.size(); ++i)
             connect(botones[i], &Boton::clicked, this,
-                    [this, &paleta, i] { (bosquel_.*paleta.pulsar)(static_cast<int>(i)); });
+                    [this, &paleta, i] { std::invoke(paleta.pulsar, bosquel_, static_cast<int>(i)); });
         paneles_.push_back(panel);
     }
 }

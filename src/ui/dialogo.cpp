@@ -39,6 +39,7 @@ Dialogo::Dialogo(const char* nombre, const QString& titulo, const Botones& boton
     bttAplicar->setDefault(true);
     connect(bttAplicar, &QPushButton::clicked, this, &Dialogo::accept);
     connect(bttCancelar, &QPushButton::clicked, this, &Dialogo::reject);
+    pie_->addSpacing(2 * separacion);
     pie_->addStretch();
     pie_->addWidget(bttAplicar);
     pie_->addWidget(bttCancelar);
@@ -46,8 +47,18 @@ Dialogo::Dialogo(const char* nombre, const QString& titulo, const Botones& boton
 
 QPushButton* Dialogo::anadirBoton(const char* nombre, const QString& rotulo) {
     auto* boton = nombrar(new QPushButton(rotulo, this), nombre);
+    boton->setMinimumWidth(boton->sizeHint().width() + separacion);
     pie_->insertWidget(sueltos_++, boton);
     return boton;
+}
+
+void Dialogo::ordenar(const QStringList& nombres) {
+    QWidget* anterior = nullptr;
+    for (const QString& nombre : nombres) {
+        auto* siguiente = findChild<QWidget*>(nombre);
+        if (anterior) setTabOrder(anterior, siguiente);
+        anterior = siguiente;
+    }
 }
 
 void Dialogo::accept() {

@@ -31,6 +31,9 @@ class Dialogo : public QDialog {
     /// One more button, at the left of the bottom row; it leaves the dialog open.
     QPushButton* anadirBoton(const char* nombre, const QString& rotulo);
 
+    /// The way of the Tab key through the controls, by object name.
+    void ordenar(const QStringList& nombres);
+
     void showEvent(QShowEvent* suceso) override;
 
     virtual void aplicar() = 0;

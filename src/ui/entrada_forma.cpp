@@ -2,6 +2,7 @@
 
 #include "drawing/entrada.h"
 #include "ui/plano_entrada.h"
+#include "ui/textos.h"
 
 #include <QGuiApplication>
 #include <QLabel>
@@ -60,8 +61,7 @@ EntradaForma::EntradaForma(Entrada& logica)
 
 void EntradaForma::tic() {
     logica_.tic();
-    const std::string_view texto = logica_.lblVersion();
-    lblVersion_->setText(QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
+    lblVersion_->setText(aQString(logica_.lblVersion()));
     if (reloj_->interval() != logica_.intervalo()) reloj_->setInterval(logica_.intervalo());
     if (logica_.cerrada()) close();
 }

@@ -29,6 +29,11 @@ Lado lado(int lugar, int tamano, int visor) {
     return {0, visor, -lugar};
 }
 
+/// Whole device pixels that cover a rectangle of logical ones.
+QRect enPixeles(const QRect& zona, double escala) {
+    return QRectF(QPointF(zona.topLeft()) * escala, QSizeF(zona.size()) * escala).toAlignedRect();
+}
+
 }  // namespace
 
 HojaWidget::HojaWidget(Bosquel& bosquel, QWidget* padre) : QWidget(padre), bosquel_(bosquel) {
@@ -86,15 +91,12 @@ void HojaWidget::ponerCursor(Cursor rol) {
 void HojaWidget::pintarFondo(const QRect& zona) {
     const double escala = fondo_.devicePixelRatio();
     const QPoint esquina = (QPointF(vista_.topLeft()) * escala).toPoint();
-    const QRect enPixeles(static_cast<int>(std::floor(zona.x() * escala)),
-                          static_cast<int>(std::floor(zona.y() * escala)),
-                          static_cast<int>(std::ceil(zona.width() * escala)) + 1,
-                          static_cast<int>(std::ceil(zona.height() * escala)) + 1);
+    const QRect pixeles = enPixeles(zona, escala);
     fondo_.setDevicePixelRatio(1);
     QPainter pintor(&fondo_);
     pintor.translate(-esquina);
-    pintor.setClipRect(enPixeles);
-    pintarQuieto(pintor, bosquel_.sesion(), enPixeles, escala / unidadesPorPixel);
+    pintor.setClipRect(pixeles);
+    pintarQuieto(pintor, bosquel_.sesion(), pixeles, escala / unidadesPorPixel);
     pintor.end();
     fondo_.setDevicePixelRatio(escala);
 }
@@ -117,12 +119,20 @@ void HojaWidget::actualizarFondo() {
 
 void HojaWidget::paintEvent(QPaintEvent* evento) {
     actualizarFondo();
+    const double escala = devicePixelRatioF();
     QPainter pintor(this);
     pintor.setClipRegion(evento->region());
     pintor.translate(-origen_);
     pintor.drawPixmap(vista_.topLeft(), fondo_);
-    const double escala = devicePixelRatioF();
     pintor.scale(1 / escala, 1 / escala);
+    // Only who asks for a picture of the whole sheet gets here with more than what is on view.
+    for (const QRect& zona : evento->region().translated(origen_) - vista_) {
+        const QRect pixeles = enPixeles(zona, escala);
+        pintor.save();
+        pintor.setClipRect(pixeles, Qt::IntersectClip);
+        pintarQuieto(pintor, bosquel_.sesion(), pixeles, escala / unidadesPorPixel);
+        pintor.restore();
+    }
     pintarEnMovimiento(pintor, bosquel_.sesion(), escala / unidadesPorPixel);
 }
 

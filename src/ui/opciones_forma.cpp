@@ -4,6 +4,7 @@
 #include "model/standard.h"
 #include "ui/campo_numero.h"
 #include "ui/rotulos.h"
+#include "ui/textos.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -18,6 +19,13 @@ namespace {
 
 constexpr int anchoCampo = 84;  // px
 
+/// The fields of all three frames stand in one column, whatever their units.
+QGridLayout* rejillaConUnidades(QWidget* marco) {
+    auto* rejilla = nuevaRejilla(marco);
+    rejilla->setColumnMinimumWidth(2, QLabel("minutos").sizeHint().width());
+    return rejilla;
+}
+
 }  // namespace
 
 OpcionesForma::OpcionesForma(Opciones& logica, QWidget* padre)
@@ -31,6 +39,9 @@ OpcionesForma::OpcionesForma(Opciones& logica, QWidget* padre)
         logica_.Restablecer();
         mostrar();
     });
+    ordenar({"TxtAnchoHoja", "TxtAltoHoja", "ChkIman", "ChkVisible", "TxtCuadricula", "chkSalvadoAutomatico",
+             "txtSalvarCadaXmin", "BttAplicar", "BttCancelar", "BttPredeterminar", "BttOriginales"});
+    findChild<CampoNumero*>("TxtAnchoHoja")->setFocus();
     mostrar();
 }
 
@@ -52,7 +63,7 @@ QCheckBox* OpcionesForma::casilla(const char* nombre, const QString& rotulo, boo
 
 QWidget* OpcionesForma::dimensiones() {
     auto* marco = new QGroupBox("Dimensiones");
-    auto* rejilla = new QGridLayout(marco);
+    auto* rejilla = rejillaConUnidades(marco);
     auto* ancho = texto("TxtAnchoHoja", new CampoNumero(FiltraEntero), &Opciones::TxtAnchoHoja);
     auto* alto = texto("TxtAltoHoja", new CampoNumero(FiltraEntero), &Opciones::TxtAltoHoja);
     ponerFila(rejilla, 0, rotular("Ancho &de la hoja:", ancho, "mm"), ancho, "mm");
@@ -62,7 +73,7 @@ QWidget* OpcionesForma::dimensiones() {
 
 QWidget* OpcionesForma::cuadricula() {
     auto* marco = new QGroupBox("Cuadrícula");
-    auto* rejilla = new QGridLayout(marco);
+    auto* rejilla = rejillaConUnidades(marco);
     auto* espaciado = texto("TxtCuadricula", new CampoNumero(FiltraDecimal), &Opciones::TxtCuadricula);
     rejilla->addWidget(casilla("ChkIman", "Activar c&uadrícula", &Opciones::ChkIman), 0, 0, 1, 3);
     rejilla->addWidget(casilla("ChkVisible", "&Mostrar cuadrícula", &Opciones::ChkVisible), 1, 0, 1, 3);
@@ -72,7 +83,7 @@ QWidget* OpcionesForma::cuadricula() {
 
 QWidget* OpcionesForma::salvadoAutomatico() {
     auto* marco = new QGroupBox("Salvado Automático");
-    auto* rejilla = new QGridLayout(marco);
+    auto* rejilla = rejillaConUnidades(marco);
     auto* activar =
         casilla("chkSalvadoAutomatico", "Activar &Salvado Automático", &Opciones::chkSalvadoAutomatico);
     auto* minutos =
@@ -89,7 +100,7 @@ void OpcionesForma::mostrar() {
     // The values of the logic: a copy, since each control writes back as it is filled.
     const Opciones valores = logica_;
     for (const auto& [campo, valor] : textos_)
-        campo->setText(QString::fromStdString(valores.*valor));
+        campo->setText(aQString(valores.*valor));
     for (const auto& [campo, valor] : casillas_)
         campo->setChecked(valores.*valor);
 }

@@ -4,6 +4,7 @@
 #include "ui/campo_numero.h"
 #include "ui/dial.h"
 #include "ui/rotulos.h"
+#include "ui/textos.h"
 #include "ui/unidades.h"
 #include "walls/pared_prop.h"
 
@@ -17,47 +18,44 @@ namespace bosquel {
 
 namespace {
 
-constexpr double largoRadios = 112;     // px
-constexpr int gradosPorRadio = 15;      // from 90 downwards
-constexpr int anchoCampo = 84;          // px
-constexpr double bajadaPilar = 200;     // sheet units
-constexpr int separacionColumnas = 22;  // px
+constexpr double largoRadios = 112;                            // px
+constexpr int gradosPorRadio = 15;                             // from 90 downwards
+constexpr int anchoCampo = 84;                                 // px
+constexpr double bajadaPilar = 200;                            // sheet units
+constexpr int separacionColumnas = 22, separacionMarcos = 12;  // px
 
-/// The rows of the sizes. In a pilar the width stands alone, in the place of the two radios, and a row of its
-/// own pushes the length down.
-enum Fila { filaMuro, filaTabique, filaBajada, filaLongitud };
+/// The rows of the sizes. In a pilar the width stands alone, in the place of the two radios, and the length
+/// lower in its row.
+enum Fila { filaMuro, filaTabique, filaLongitud };
 
 Dial::Traza trazaDial() {
     Dial::Traza traza{"EtiquetaAngulo_", "LineaAngulo_", {}, largoRadios};
     int angulo = 90;
     for (const auto rotulo : ParedProp::EtiquetaAngulo) {
-        traza.radios.push_back(
-            {QString::fromUtf8(rotulo.data(), static_cast<qsizetype>(rotulo.size())), angulo});
+        traza.radios.push_back({aQString(rotulo), angulo});
         angulo -= gradosPorRadio;
     }
     return traza;
 }
 
-/// Out of sight, its place kept.
-void esconder(QWidget* control) {
-    QSizePolicy medidas = control->sizePolicy();
-    medidas.setRetainSizeWhenHidden(true);
-    control->setSizePolicy(medidas);
-    control->hide();
+using FilaPared = std::array<QWidget*, 3>;  // caption, field and unit
+
+void mover(QGridLayout* rejilla, const FilaPared& controles, int fila, Qt::Alignment alineacion) {
+    for (int columna = 0; QWidget * control : controles) {
+        rejilla->removeWidget(control);
+        rejilla->addWidget(control, fila, columna++, alineacion);
+    }
 }
 
-/// Caption, field and unit of the width over the rows of both radios, the length pushed down.
-void acomodarPilar(QGridLayout* rejilla, const std::array<QWidget*, 3>& anchura) {
-    const int alto = anchura[1]->sizeHint().height();
-    anchura[0]->setFixedHeight(alto);
-    rejilla->setRowMinimumHeight(filaMuro, alto);
-    rejilla->setRowMinimumHeight(filaBajada, aPixeles(bajadaPilar));
-    for (int columna = 0; columna < 3; ++columna) {
-        QWidget* control = anchura[static_cast<std::size_t>(columna)];
-        rejilla->removeWidget(control);
-        rejilla->addWidget(control, filaMuro, columna, 2, 1,
-                           columna == 1 ? Qt::Alignment() : Qt::AlignVCenter);
-    }
+/// The width takes the height of both radios' rows.
+void acomodarPilar(QGridLayout* rejilla, const FilaPared& anchura, const FilaPared& longitud) {
+    const int alto = longitud[1]->sizeHint().height();
+    for (QWidget* texto : {anchura[0], anchura[2], longitud[0], longitud[2]})
+        texto->setFixedHeight(alto);
+    rejilla->setRowMinimumHeight(filaMuro, 2 * alto + rejilla->verticalSpacing());
+    rejilla->setRowMinimumHeight(filaLongitud, alto + aPixeles(bajadaPilar));
+    mover(rejilla, anchura, filaMuro, Qt::AlignVCenter);
+    mover(rejilla, longitud, filaLongitud, Qt::AlignBottom);
 }
 
 }  // namespace
@@ -66,8 +64,9 @@ ParedPropForma::ParedPropForma(ParedProp& logica, QWidget* padre)
     : Dialogo("ParedProp", "Propiedades de Muros y Tabiques", {"Botones_1", "Botones_0"}, padre),
       logica_(logica) {
     auto* izquierda = new QVBoxLayout;
+    izquierda->setSpacing(separacionMarcos);
     izquierda->addWidget(marcoCoordenadas());
-    izquierda->addLayout(medidas());
+    izquierda->addWidget(medidas());
     izquierda->addStretch();
     izquierda->addWidget(casilla());
 
@@ -77,12 +76,14 @@ ParedPropForma::ParedPropForma(ParedProp& logica, QWidget* padre)
     columnas->addLayout(direccion());
     cuerpo()->addLayout(columnas);
     mostrarTipo();
+    ordenar({"TxtInicialX", "TxtInicialY", "Tipo_0", "TxtAnchoMuro", "Tipo_1", "TxtAnchoTabique",
+             "txtLongitud", "ChkPredeterminar", "TxtAngulo", "Dial", "Botones_1", "Botones_0"});
     txtLongitud_->setFocus();
 }
 
 CampoNumero* ParedPropForma::campo(const char* nombre, std::string ParedProp::*texto) {
     auto* campo = nombrar(new CampoNumero(FiltraDecimal), nombre);
-    campo->setText(QString::fromStdString(logica_.*texto));
+    campo->setText(aQString(logica_.*texto));
     campo->setAlignment(Qt::AlignRight);
     campo->setFixedWidth(anchoCampo);
     connect(campo, &QLineEdit::textChanged, this,
@@ -92,7 +93,7 @@ CampoNumero* ParedPropForma::campo(const char* nombre, std::string ParedProp::*t
 
 QWidget* ParedPropForma::marcoCoordenadas() {
     auto* marco = new QGroupBox("Coordenadas punto inicial");
-    auto* rejilla = new QGridLayout(marco);
+    auto* rejilla = nuevaRejilla(marco);
     auto* x = campo("TxtInicialX", &ParedProp::TxtInicialX);
     auto* y = campo("TxtInicialY", &ParedProp::TxtInicialY);
     x->setReadOnly(true);
@@ -115,7 +116,7 @@ QRadioButton* ParedPropForma::radio(int tipo, const QString& rotulo, QWidget* an
     return boton;
 }
 
-QLayout* ParedPropForma::medidas() {
+QWidget* ParedPropForma::medidas() {
     txtAnchoMuro_ = campo("TxtAnchoMuro", &ParedProp::TxtAnchoMuro);
     txtAnchoTabique_ = campo("TxtAnchoTabique", &ParedProp::TxtAnchoTabique);
     txtLongitud_ = campo("txtLongitud", &ParedProp::txtLongitud);
@@ -124,19 +125,21 @@ QLayout* ParedPropForma::medidas() {
     anchura->setVisible(logica_.esPilar());
     auto* longitud = nombrar(rotular("&Longitud", txtLongitud_, "m"), "Label4_0");
 
-    auto* rejilla = new QGridLayout;
-    QWidget* metrosMuro = ponerFila(rejilla, filaMuro, tipo_[0], txtAnchoMuro_, "m");
-    QWidget* metrosTabique = ponerFila(rejilla, filaTabique, tipo_[1], txtAnchoTabique_, "m");
-    ponerFila(rejilla, filaLongitud, longitud, txtLongitud_, "m");
-    if (!logica_.esPilar()) return rejilla;
-
-    for (QWidget* control : {static_cast<QWidget*>(tipo_[0]), static_cast<QWidget*>(tipo_[1]),
-                             static_cast<QWidget*>(txtAnchoTabique_), metrosTabique})
-        esconder(control);
-    acomodarPilar(rejilla, {anchura, txtAnchoMuro_, metrosMuro});
-    anchura->setBuddy(txtAnchoMuro_);
-    txtAnchoMuro_->setAccessibleName(leido(anchura->text()));
-    return rejilla;
+    auto* marco = new QGroupBox("Medidas");
+    auto* rejilla = nuevaRejilla(marco);
+    auto* metrosMuro = ponerFila(rejilla, filaMuro, tipo_[0], txtAnchoMuro_, "m");
+    auto* metrosTabique = ponerFila(rejilla, filaTabique, tipo_[1], txtAnchoTabique_, "m");
+    auto* metrosLongitud = ponerFila(rejilla, filaLongitud, longitud, txtLongitud_, "m");
+    if (logica_.esPilar()) {
+        for (QWidget* control :
+             std::initializer_list<QWidget*>{tipo_[0], tipo_[1], txtAnchoTabique_, metrosTabique})
+            control->hide();
+        acomodarPilar(rejilla, {anchura, txtAnchoMuro_, metrosMuro},
+                      {longitud, txtLongitud_, metrosLongitud});
+        anchura->setBuddy(txtAnchoMuro_);
+        txtAnchoMuro_->setAccessibleName(leido(anchura->text()));
+    }
+    return marco;
 }
 
 QLayout* ParedPropForma::direccion() {
@@ -151,9 +154,10 @@ QLayout* ParedPropForma::direccion() {
         accept();
     });
 
-    auto* rejilla = new QGridLayout;
+    auto* rejilla = nuevaRejilla();
     ponerFila(rejilla, 0, rotular("Án&gulo", txtAngulo_, "grados"), txtAngulo_, "º");
     auto* columna = new QVBoxLayout;
+    columna->setSpacing(separacionMarcos);
     columna->addLayout(rejilla);
     columna->addWidget(dial_);
     return columna;
@@ -169,7 +173,7 @@ QWidget* ParedPropForma::casilla() {
 
 void ParedPropForma::elegirAngulo(int etiqueta) {
     logica_.elegirAngulo(etiqueta);
-    txtAngulo_->setText(QString::fromStdString(logica_.TxtAngulo));
+    txtAngulo_->setText(aQString(logica_.TxtAngulo));
     dial_->encender(logica_.radioEncendido());
 }
 

@@ -28,7 +28,7 @@ class ParedPropForma : public Dialogo {
   private:
     CampoNumero* campo(const char* nombre, std::string ParedProp::*texto);
     QWidget* marcoCoordenadas();
-    QLayout* medidas();
+    QWidget* medidas();
     QLayout* direccion();
     QWidget* casilla();
     QRadioButton* radio(int tipo, const QString& rotulo, QWidget* ancho);

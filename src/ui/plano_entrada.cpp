@@ -1,6 +1,7 @@
 #include "ui/plano_entrada.h"
 
 #include <QLineF>
+#include <QList>
 #include <QPainter>
 #include <algorithm>
 
@@ -11,67 +12,50 @@ namespace {
 // A dwelling of two rooms and a bath, 12.4 m by 5 m, in metres from its top left corner.
 constexpr double ancho = 12.4, alto = 5;
 
-const QLineF muros[] = {
-    // outer face, broken by two windows and the door of the house
-    {0, 0, 1.2, 0},
-    {3.2, 0, 8.4, 0},
-    {10.2, 0, 12.4, 0},
-    {12.4, 0, 12.4, 5},
-    {12.4, 5, 6.4, 5},
-    {5.4, 5, 0, 5},
-    {0, 5, 0, 0},
-    // inner faces
-    {.2, .2, 1.2, .2},
-    {3.2, .2, 4.6, .2},
-    {4.6, .2, 4.6, 3.2},
-    {4.6, 4.2, 4.6, 4.8},
-    {4.6, 4.8, .2, 4.8},
-    {.2, 4.8, .2, .2},
-    {4.7, .2, 8.4, .2},
-    {4.7, .2, 4.7, 3.2},
-    {4.7, 4.2, 4.7, 4.8},
-    {4.7, 4.8, 5.4, 4.8},
-    {6.4, 4.8, 9, 4.8},
-    {9, 4.8, 9, 4.4},
-    {9, 3.4, 9, .2},
-    {9, .2, 8.4, .2},
-    {10.2, .2, 12.2, .2},
-    {12.2, .2, 12.2, 4.8},
-    {12.2, 4.8, 9.1, 4.8},
-    {9.1, 4.8, 9.1, 4.4},
-    {9.1, 3.4, 9.1, .2},
-    {9.1, .2, 10.2, .2},
-    // reveals
-    {1.2, 0, 1.2, .2},
-    {3.2, 0, 3.2, .2},
-    {4.6, 3.2, 4.7, 3.2},
-    {4.6, 4.2, 4.7, 4.2},
-    {5.4, 5, 5.4, 4.8},
-    {6.4, 5, 6.4, 4.8},
-    {9, 3.4, 9.1, 3.4},
-    {9, 4.4, 9.1, 4.4},
+// clang-format off
+const QList<QLineF> muros = {
+    // outer face, broken by three windows and the door of the house
+    {0, 0, 1.2, 0}, {3.2, 0, 5.8, 0}, {7.8, 0, 9.8, 0}, {11.2, 0, 12.4, 0}, {12.4, 0, 12.4, 5},
+    {12.4, 5, 6.4, 5}, {5.4, 5, 0, 5}, {0, 5, 0, 0},
+    // bedroom
+    {.2, .2, 1.2, .2}, {3.2, .2, 4.6, .2}, {4.6, .2, 4.6, 3.2}, {4.6, 4.2, 4.6, 4.8},
+    {4.6, 4.8, .2, 4.8}, {.2, 4.8, .2, .2},
+    // living room
+    {4.7, .2, 5.8, .2}, {7.8, .2, 9, .2}, {9, .2, 9, 3.4}, {9, 4.4, 9, 4.8},
+    {9, 4.8, 6.4, 4.8}, {5.4, 4.8, 4.7, 4.8}, {4.7, 4.8, 4.7, 4.2}, {4.7, 3.2, 4.7, .2},
+    // bath
+    {9.1, .2, 9.8, .2}, {11.2, .2, 12.2, .2}, {12.2, .2, 12.2, 4.8},
+    {12.2, 4.8, 9.1, 4.8}, {9.1, 4.8, 9.1, 4.4}, {9.1, 3.4, 9.1, .2},
+    // reveals of windows and doors
+    {1.2, 0, 1.2, .2}, {3.2, 0, 3.2, .2}, {5.8, 0, 5.8, .2}, {7.8, 0, 7.8, .2}, {9.8, 0, 9.8, .2}, {11.2, 0, 11.2, .2},
+    {4.6, 3.2, 4.7, 3.2}, {4.6, 4.2, 4.7, 4.2}, {5.4, 5, 5.4, 4.8}, {6.4, 5, 6.4, 4.8}, {9, 3.4, 9.1, 3.4}, {9, 4.4, 9.1, 4.4},
 };
 
-const QLineF carpinteria[] = {
-    {1.2, .1, 3.2, .1},    {9.3, .1, 10.2, .1},   // panes
-    {4.6, 4.2, 3.6, 4.2},  {5.4, 4.8, 5.4, 3.8},  // leaves
-    {9.1, 4.4, 10.1, 4.4},
+const QList<QLineF> carpinteria = {
+    // panes
+    {1.2, .1, 3.2, .1}, {5.8, .1, 7.8, .1}, {9.8, .1, 11.2, .1},
+    // leaves
+    {4.6, 4.2, 3.6, 4.2}, {5.4, 4.8, 5.4, 3.8}, {9.1, 4.4, 10.1, 4.4},
 };
 
 /// A quarter of a circle around a hinge: where a leaf swings. Sixteenths of a degree, from the right upwards.
 struct Giro {
     QPointF gozne;
-    double hoja;
-    int desde;
+    double hoja = 0;
+    int desde = 0;
 };
-const Giro giros[] = {{{4.6, 4.2}, 1, 90 * 16}, {{5.4, 4.8}, 1, 0}, {{9.1, 4.4}, 1, 0}};
+const QList<Giro> giros = {{{4.6, 4.2}, 1, 90 * 16}, {{5.4, 4.8}, 1, 0}, {{9.1, 4.4}, 1, 0}};
 
-const QRectF muebles[] = {
-    {.2, 1, 2, 1.5},     {.3, 1.1, .45, 1.3},                                            // bed and pillow
-    {.2, 4.2, 2.2, .6},                                                                  // wardrobe
-    {6.1, 1.4, 1.6, .9}, {6.3, .85, .4, .4},  {7.1, .85, .4, .4},                        // table and chairs
-    {6.3, 2.45, .4, .4}, {7.1, 2.45, .4, .4}, {11.5, .4, .7, 1.7}, {11.6, .5, .5, 1.5},  // bath
+const QList<QRectF> muebles = {
+    // bed, pillow, wardrobe
+    {.2, 1, 2, 1.5}, {.3, 1.1, .45, 1.3}, {.2, 4.2, 2.2, .6},
+    // table and four chairs
+    {6.1, 1.6, 1.6, .9}, {6.3, 1.05, .4, .4}, {7.1, 1.05, .4, .4},
+    {6.3, 2.65, .4, .4}, {7.1, 2.65, .4, .4},
+    // bath tub, basin
+    {11.5, .4, .7, 1.7}, {11.6, .5, .5, 1.5}, {11.7, 2.9, .5, .6},
 };
+// clang-format on
 
 }  // namespace
 
@@ -88,12 +72,12 @@ void dibujarPlano(QPainter& pintor, const QRectF& marco, const QColor& tintaMuro
     };
     pintor.setBrush(Qt::NoBrush);
     pluma(tintaMuebles, 1);
-    pintor.drawRects(muebles, static_cast<int>(std::size(muebles)));
-    pintor.drawLines(carpinteria, static_cast<int>(std::size(carpinteria)));
+    pintor.drawRects(muebles);
+    pintor.drawLines(carpinteria);
     for (const auto& [gozne, hoja, desde] : giros)
         pintor.drawArc(QRectF(gozne - QPointF(hoja, hoja), QSizeF(2 * hoja, 2 * hoja)), desde, 90 * 16);
     pluma(tintaMuros, 1.6);
-    pintor.drawLines(muros, static_cast<int>(std::size(muros)));
+    pintor.drawLines(muros);
     pintor.restore();
 }
 

@@ -10,6 +10,7 @@
 #include "ui/ventana_prop_forma.h"
 
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -51,6 +52,8 @@ Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
     QMessageBox caja(ventana_);
     caja.setWindowTitle(aQString(mensaje.titulo));
     caja.setTextFormat(Qt::PlainText);
+    // Yes, no and cancel from left to right, whatever the desktop's order.
+    caja.setStyleSheet(QStringLiteral("QMessageBox { button-layout: %1 }").arg(QDialogButtonBox::WinLayout));
     caja.setText(aQString(mensaje.texto));
     caja.setIcon(mensaje.icono == Icono::pregunta ? QMessageBox::Question : QMessageBox::Information);
     const auto botones = botonesDe(mensaje.botones);

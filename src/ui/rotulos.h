@@ -23,6 +23,9 @@ Control* nombrar(Control* control, const char* nombre) {
 /// read with it.
 QLabel* rotular(const QString& rotulo, QWidget* campo, const QString& unidad = {});
 
+/// The rows of a form, all with the same distances; `marco` may be none.
+QGridLayout* nuevaRejilla(QWidget* marco = nullptr);
+
 /// A row of a form: caption, field, unit. The caption is a label or the radio or check that stands for one.
 /// Answers the unit.
 QLabel* ponerFila(QGridLayout* rejilla, int fila, QWidget* rotulo, QWidget* campo, const QString& unidad);

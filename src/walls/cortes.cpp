@@ -167,7 +167,8 @@ void abrirSegun(const Tabla& tabla, Corte corte, const Cortador& cortador) {
 }  // namespace
 
 void CortarParedes(Dibujo& dibujo, Corte corte) {
-    int w1 = dibujo.ParedUno, w2 = dibujo.ParedDos;
+    int w1 = dibujo.ParedUno;
+    int w2 = dibujo.ParedDos;
     const Pared* uno = dibujo.Pared.en(w1);
     const Pared* dos = dibujo.Pared.en(w2);
     if (!uno || !dos || corte == Corte::nada) return;

@@ -15,6 +15,16 @@ namespace {
 
 using Union = void (*)(Dibujo&);
 
+/// An infinite line in 64 bits. An upright one has no finite `b` and no finite y.
+struct Recta {
+    explicit Recta(const Segmento& linea) : x1(linea.X1), y1(linea.Y1), x2(linea.X2), y2(linea.Y2) {}
+    double y(double x) const { return b + dy * x / dx; }
+
+    double x1, y1, x2, y2;
+    double dx = x2 - x1, dy = y2 - y1;
+    double b = y1 - (dy / dx) * x1;
+};
+
 /// The middle of a wall's line 1. It is taken before anything moves.
 struct Medio {
     explicit Medio(const Pared& pared)
@@ -50,6 +60,12 @@ Extremo extremoQueMueve(float desde, float hasta, double punto) {
     return std::abs(hasta - punto) > std::abs(desde - punto) ? Extremo::inicial : Extremo::final;
 }
 
+Extremo extremoQueMueve(const Segmento& linea, double x, double y) {
+    if (linea.X1 != linea.X2) return extremoQueMueve(linea.X1, linea.X2, x);
+    if (linea.Y1 < linea.Y2) return extremoQueMueve(linea.Y1, linea.Y2, y);
+    return extremoQueMueve(-linea.Y1, -linea.Y2, -y);  // upwards: the same, seen from the other side
+}
+
 int signo(double valor) {
     return valor > 0 ? 1 : valor < 0 ? -1 : 0;
 }
@@ -57,9 +73,10 @@ int signo(double valor) {
 // The pairing of two walls of which none is upright, by the sign of the product of their angles.
 
 struct Eleccion {
-    int signo;
+    int signo = 0;
     std::optional<bool> algunoPositivo;  ///< nothing: it does not matter
-    Union mismoLado, deOtroModo;
+    Union mismoLado = nullptr;
+    Union deOtroModo = nullptr;
 };
 
 // clang-format off
@@ -155,22 +172,16 @@ bool sonParalelas(const Pared& una, const Pared& otra) {
 }
 
 void PuntoUnion(Dibujo& dibujo, const Segmento& Linea1, const Segmento& Linea2) {
-    const double x1 = Linea1.X1, y1 = Linea1.Y1, x2 = Linea1.X2, y2 = Linea1.Y2;
-    const double x3 = Linea2.X1, y3 = Linea2.Y1, x4 = Linea2.X2, y4 = Linea2.Y2;
-    const double dx1 = x2 - x1, dy1 = y2 - y1, dx2 = x4 - x3, dy2 = y4 - y3;
-    const double b1 = y1 - (dy1 / dx1) * x1;
-    const double b2 = y3 - (dy2 / dx2) * x3;
-    if (dx1 == 0)
-        dibujo.PuntoUnionX = x1;
-    else if (dx2 == 0)
-        dibujo.PuntoUnionX = x3;
+    const Recta r(Linea1);
+    const Recta s(Linea2);
+    if (r.dx == 0)
+        dibujo.PuntoUnionX = r.x1;
+    else if (s.dx == 0)
+        dibujo.PuntoUnionX = s.x1;
     else
         asignar(dibujo.PuntoUnionX,
-                ((b1 - b2) * dx2 * dx1) / ((dx1 * y4 - dx1 * y3) - (dx2 * y2 - dx2 * y1)));
-    if (dx1 == 0)
-        asignar(dibujo.PuntoUnionY, b2 + dy2 * dibujo.PuntoUnionX / dx2);
-    else
-        asignar(dibujo.PuntoUnionY, b1 + dy1 * dibujo.PuntoUnionX / dx1);
+                ((r.b - s.b) * s.dx * r.dx) / ((r.dx * s.y2 - r.dx * s.y1) - (s.dx * r.y2 - s.dx * r.y1)));
+    asignar(dibujo.PuntoUnionY, (r.dx == 0 ? s : r).y(dibujo.PuntoUnionX));
 }
 
 void ponerExtremo(Segmento& linea, Extremo extremo, double x, double y) {
@@ -179,15 +190,8 @@ void ponerExtremo(Segmento& linea, Extremo extremo, double x, double y) {
 }
 
 void AlargarLinea(const Dibujo& dibujo, Segmento& QueLinea) {
-    const double x = dibujo.PuntoUnionX, y = dibujo.PuntoUnionY;
-    Extremo extremo;
-    if (QueLinea.X1 != QueLinea.X2)
-        extremo = extremoQueMueve(QueLinea.X1, QueLinea.X2, x);
-    else if (QueLinea.Y1 < QueLinea.Y2)
-        extremo = extremoQueMueve(QueLinea.Y1, QueLinea.Y2, y);
-    else  // upwards: the same, seen from the other side
-        extremo = extremoQueMueve(-QueLinea.Y1, -QueLinea.Y2, -y);
-    ponerExtremo(QueLinea, extremo, x, y);
+    const Extremo extremo = extremoQueMueve(QueLinea, dibujo.PuntoUnionX, dibujo.PuntoUnionY);
+    ponerExtremo(QueLinea, extremo, dibujo.PuntoUnionX, dibujo.PuntoUnionY);
 }
 
 void Une1331(Dibujo& dibujo) {

@@ -94,7 +94,8 @@ bool cumple(const Prueba& prueba, const Dibujo& dibujo, const Segmento& A, const
 }
 
 Corte elegirCorte(const Dibujo& dibujo, const Pared& uno, const Pared& dos) {
-    const auto a = clase(uno.Angulo), b = clase(dos.Angulo);
+    const auto a = clase(uno.Angulo);
+    const auto b = clase(dos.Angulo);
     const auto caso = std::find_if(casos.begin(), casos.end(),
                                    [&](const Caso& fila) { return fila.a == a && fila.b == b; });
     if (caso == casos.end()) return Corte::nada;
@@ -124,8 +125,8 @@ Encuentro encuentroDeParedes(Dibujo& dibujo) {
     const Segmento& A = uno->lineas[0];
     const Segmento& B = dos->lineas[0];
     PuntoUnion(dibujo, A, B);
-    const double x = dibujo.PuntoUnionX, y = dibujo.PuntoUnionY;
-    const bool fuera = (fueraEnX(x, A) && fueraEnX(x, B)) || fueraEnY(y, A, B);
+    const double x = dibujo.PuntoUnionX;
+    const bool fuera = (fueraEnX(x, A) && fueraEnX(x, B)) || fueraEnY(dibujo.PuntoUnionY, A, B);
     return fuera ? Encuentro::fuera : Encuentro::cruce;
 }
 

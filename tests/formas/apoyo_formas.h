@@ -83,6 +83,16 @@ inline bool blanca(const QWidget& campo) {
     return campo.isEnabled() && color(campo, QPalette::Base) == color(*campo.window(), QPalette::Base);
 }
 
+/// The controls that the Tab key visits from the focus on, until it is back.
+inline QStringList recorridoTab(QWidget& forma) {
+    QStringList nombres;
+    while (!nombres.contains(forma.focusWidget()->objectName())) {
+        nombres += forma.focusWidget()->objectName();
+        QTest::keyClick(forma.focusWidget(), Qt::Key_Tab);
+    }
+    return nombres;
+}
+
 /// No two captions in sight share a letter, and every control says what it is.
 inline void esperarAccesible(QWidget& forma) {
     QSet<QString> letras;

@@ -13,7 +13,7 @@ const QColor azul(0, 0, 128), encarnado(255, 0, 0);
 
 /// The full circle of a stair: 24 spokes in steps of 15 degrees.
 Dial::Traza circulo() {
-    Dial::Traza traza{"Etiqueta_", "Linea_", {}, 110};
+    Dial::Traza traza{"Etiqueta_", "Linea_", {}, 124};
     for (int angulo = 0; angulo < 360; angulo += 15)
         traza.radios.push_back({QString::number(angulo) + "º", angulo});
     return traza;

@@ -30,7 +30,7 @@ struct PruebaOpciones : testing::Test {
 
     bool marcada(const QString& nombre) { return control<QCheckBox>(forma, nombre).isChecked(); }
     void marcar(const QString& nombre) { control<QCheckBox>(forma, nombre).click(); }
-    std::string ajuste(const char* seccion, const char* clave) {
+    std::string ajuste(const char* seccion, const char* clave) const {
         return LeerIni(carpeta / "Bqr.ini", seccion, clave);
     }
 };
@@ -44,7 +44,8 @@ using OpcionesFormaBotones = PruebaOpciones;
 TEST_F(OpcionesFormaMostrar, TieneSusMarcosRotulosYUnidades) {
     EXPECT_EQ(forma.objectName(), "Opciones");
     EXPECT_EQ(forma.windowTitle(), "Configuración");
-    QStringList marcos, rotulos;
+    QStringList marcos;
+    QStringList rotulos;
     for (const auto* marco : forma.findChildren<QGroupBox*>())
         marcos += marco->title();
     for (const auto* etiqueta : forma.findChildren<QLabel*>())
@@ -100,6 +101,13 @@ TEST_F(OpcionesFormaCampos, LaHojaYLaCuadriculaSeSeleccionanAlTomarElFoco) {
         pulsar(forma, nombre);
         EXPECT_EQ(control<QLineEdit>(forma, nombre).selectedText(), texto(forma, nombre)) << nombre;
     }
+}
+
+TEST_F(OpcionesFormaCampos, ElTabuladorLosRecorreEnOrden) {
+    EXPECT_EQ(recorridoTab(forma),
+              QStringList({"TxtAnchoHoja", "TxtAltoHoja", "ChkIman", "ChkVisible", "TxtCuadricula",
+                           "chkSalvadoAutomatico", "txtSalvarCadaXmin", "BttAplicar", "BttCancelar",
+                           "BttPredeterminar", "BttOriginales"}));
 }
 
 TEST_F(OpcionesFormaCampos, LosMinutosNoSeSeleccionan) {

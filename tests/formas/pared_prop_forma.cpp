@@ -44,12 +44,12 @@ struct PruebaParedProp : testing::Test {
         return *forma;
     }
 
-    QWidget& de(const QString& nombre) { return control(*forma, nombre); }
-    QColor tinta(const QString& nombre) { return color(de(nombre), QPalette::WindowText); }
-    int arriba(const QString& nombre) { return de(nombre).mapTo(forma.get(), QPoint()).y(); }
+    QWidget& de(const QString& nombre) const { return control(*forma, nombre); }
+    QColor tinta(const QString& nombre) const { return color(de(nombre), QPalette::WindowText); }
+    int arriba(const QString& nombre) const { return de(nombre).mapTo(forma.get(), QPoint()).y(); }
 
     /// The number of the one spoke that is lit with its label, 0 for none.
-    int encendido() {
+    int encendido() const {
         int radio = 0;
         for (int i = 1; i <= 13; ++i) {
             const QColor color = tinta(QString("EtiquetaAngulo_%1").arg(i));
@@ -156,8 +156,10 @@ TEST_F(ParedPropFormaTipo, ElegirElOtroTipoCambiaLasCasillasYSeAplica) {
 
 TEST_F(ParedPropFormaPilar, EscondeElTipoYMuestraLaAnchuraEnSuLugar) {
     abrir();
-    const int longitud = arriba("txtLongitud"), etiqueta = arriba("Label4_0");
-    const int primero = arriba("Tipo_0"), ultimo = arriba("TxtAnchoTabique");
+    const int longitud = arriba("txtLongitud");
+    const int etiqueta = arriba("Label4_0");
+    const int primero = arriba("Tipo_0");
+    const int ultimo = arriba("TxtAnchoTabique");
     pared().Tipo = "Pilar";
     abrir();
     for (const char* nombre : {"Tipo_0", "Tipo_1", "TxtAnchoTabique", "ChkPredeterminar"})
@@ -209,6 +211,13 @@ TEST_F(ParedPropFormaCampos, AlTomarElFocoSeSeleccionanEnteros) {
     }
 }
 
+TEST_F(ParedPropFormaCampos, ElTabuladorLosRecorreEnOrden) {
+    abrir();
+    EXPECT_EQ(recorridoTab(*forma),
+              QStringList({"txtLongitud", "ChkPredeterminar", "TxtAngulo", "Dial", "Botones_1", "Botones_0",
+                           "TxtInicialX", "TxtInicialY", "Tipo_0", "TxtAnchoMuro"}));
+}
+
 TEST_F(ParedPropFormaCampos, LasCoordenadasSoloSeMuestran) {
     abrir();
     const QString antes = texto(*forma, "TxtInicialX");
@@ -256,6 +265,13 @@ TEST_F(ParedPropFormaDial, UnDobleClicAplicaYCierra) {
     EXPECT_FALSE(forma->isVisible());
     EXPECT_EQ(forma->result(), QDialog::Accepted);
     EXPECT_EQ(pared().Angulo, -45);
+}
+
+TEST_F(ParedPropFormaDial, ElTecladoTambienLlegaALosAngulosNegativos) {
+    abrir();
+    QTest::keyClick(&de("Dial"), Qt::Key_Down);
+    EXPECT_EQ(texto(*forma, "TxtAngulo"), "-15");
+    EXPECT_EQ(encendido(), 8);
 }
 
 TEST_F(ParedPropFormaDial, ElAbanicoVaDeArribaAbajoPasandoPorLaDerecha) {

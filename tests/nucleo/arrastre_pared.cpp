@@ -5,7 +5,6 @@
 
 using namespace bosquel;
 using apoyo::Banco;
-using apoyo::Muro;
 using apoyo::Punto;
 
 namespace {

@@ -39,6 +39,25 @@ TEST(Coleccion, LoNuevoEsUnaCopiaDelModelo) {
     EXPECT_EQ(coleccion.ultimo(), 5);
 }
 
+TEST(Coleccion, LaSiguienteSaleDelContador) {
+    Coleccion<std::string> coleccion;
+    for (const int indice : {1, 2}) {
+        const std::string* nueva = coleccion.crearSiguiente();
+        EXPECT_EQ(nueva, coleccion.en(indice));
+    }
+    EXPECT_EQ(coleccion.contador, 3);
+}
+
+TEST(Coleccion, UnContadorSinIndiceNoCreaNada) {
+    for (const auto& [contador, despues] : {std::pair{-5, -4}, {0, 1}, {32767, 32767}}) {
+        Coleccion<std::string> coleccion;
+        coleccion.contador = static_cast<std::int16_t>(contador);
+        EXPECT_EQ(coleccion.crearSiguiente(), nullptr);
+        EXPECT_EQ(coleccion.contador, despues);
+        EXPECT_EQ(coleccion.ultimo(), 0);
+    }
+}
+
 TEST(Coleccion, QuitarDejaUnHuecoYNoTocaElContadorNiElModelo) {
     Coleccion<std::string> coleccion;
     coleccion.crear(1);

@@ -1,162 +1,114 @@
 #include "walls/grupos.h"
 
-#include "apoyo/uniones_muros.h"
-
 #include <gtest/gtest.h>
 
-namespace bosquel::apoyo {
+using namespace bosquel;
 
 namespace {
 
-/// Five walls in these groups, of which 1 and 2 are chosen.
-Dibujo conGrupos(std::array<int, 5> grupos, int total) {
-    Dibujo dibujo = planoDe({{1000, 1000}, {1000, 2000}, {1000, 3000}, {1000, 4000}, {1000, 5000}});
-    for (int i = 0; i < 5; ++i)
-        dibujo.Pared.en(i + 1)->NumeroGrupo = static_cast<std::int16_t>(grupos[static_cast<std::size_t>(i)]);
-    dibujo.TotalGrupos = static_cast<std::int16_t>(total);
-    return dibujo;
-}
+/// Wall 1 in group 6, and wall 2.
+struct Escena {
+    Dibujo dibujo;
 
-std::array<int, 5> gruposDe(const Dibujo& dibujo) {
-    std::array<int, 5> grupos{};
-    for (int i = 0; i < 5; ++i)
-        grupos[static_cast<std::size_t>(i)] = dibujo.Pared.en(i + 1)->NumeroGrupo;
-    return grupos;
-}
+    Escena() {
+        dibujo.Pared.crear(1).NumeroGrupo = 6;
+        dibujo.Pared.crear(2).NumeroGrupo = 6;
+    }
+    void ventana(int indice, std::int16_t grupo, std::int16_t pared = 1) {
+        poner(dibujo.Ventana, indice, grupo, pared);
+    }
+    void puerta(int indice, std::int16_t grupo, std::int16_t pared = 1) {
+        poner(dibujo.Puerta, indice, grupo, pared);
+    }
+    std::int16_t grupo(int pared) const { return dibujo.Pared.en(pared)->NumeroGrupo; }
 
-using Grupos = std::array<int, 5>;
-
-void ponVentana(Dibujo& dibujo, int indice, int pared, int grupoInicial) {
-    Ventana& ventana = dibujo.Ventana.crear(indice);
-    dibujo.Ventana.contador = static_cast<std::int16_t>(indice + 1);
-    ventana.NumeroPared = static_cast<std::int16_t>(pared);
-    ventana.GrupoInicialPared = static_cast<std::int16_t>(grupoInicial);
-}
-
-void ponPuerta(Dibujo& dibujo, int indice, int pared, int grupoInicial) {
-    Puerta& puerta = dibujo.Puerta.crear(indice);
-    dibujo.Puerta.contador = static_cast<std::int16_t>(indice + 1);
-    puerta.NumeroPared = static_cast<std::int16_t>(pared);
-    puerta.GrupoInicialPared = static_cast<std::int16_t>(grupoInicial);
-}
+    template <class Coleccion>
+    void poner(Coleccion& coleccion, int indice, std::int16_t grupo, std::int16_t pared) {
+        auto& abertura = coleccion.crear(indice);
+        abertura.GrupoInicialPared = grupo;
+        abertura.NumeroPared = pared;
+    }
+};
 
 }  // namespace
 
-TEST(AgruparParedes, DosLibresTomanUnNumeroNuevo) {
-    Dibujo dibujo = conGrupos({0, 0, 4, 0, 0}, 6);
-    AgruparParedes(dibujo);
-    EXPECT_EQ(gruposDe(dibujo), (Grupos{7, 7, 4, 0, 0}));
-    EXPECT_EQ(dibujo.TotalGrupos, 7);
+TEST(Grupos, LaVentanaQueCerroElMuroPasaElDeberALaSiguiente) {
+    Escena escena;
+    escena.ventana(1, 0);
+    escena.ventana(2, 6);
+    escena.ventana(3, 6);
+    EliminaVentana(escena.dibujo, 1);
+    EXPECT_EQ(escena.dibujo.Ventana.en(2)->GrupoInicialPared, 0);
+    EXPECT_EQ(escena.dibujo.Ventana.en(3)->GrupoInicialPared, 6);
+    EXPECT_EQ(escena.grupo(1), 6);
+    EliminaVentana(escena.dibujo, 3);
+    EXPECT_EQ(escena.grupo(1), 6);
+    EliminaVentana(escena.dibujo, 2);
+    EXPECT_EQ(escena.grupo(1), 0);
+    EXPECT_EQ(escena.grupo(2), 6);
 }
 
-TEST(AgruparParedes, LaLibreTomaElDeLaOtra) {
-    Dibujo dibujo = conGrupos({0, 4, 4, 0, 2}, 6);
-    AgruparParedes(dibujo);
-    EXPECT_EQ(gruposDe(dibujo), (Grupos{4, 4, 4, 0, 2}));
-    dibujo = conGrupos({4, 0, 4, 0, 2}, 6);
-    AgruparParedes(dibujo);
-    EXPECT_EQ(gruposDe(dibujo), (Grupos{4, 4, 4, 0, 2}));
-    EXPECT_EQ(dibujo.TotalGrupos, 6);
+TEST(Grupos, LasVentanasNoVenLasPuertasNiLasPuertasLasVentanas) {
+    Escena escena;
+    escena.ventana(1, 0);
+    escena.puerta(1, 6);
+    EliminaVentana(escena.dibujo, 1);
+    EXPECT_EQ(escena.grupo(1), 0);
+    EXPECT_TRUE(escena.dibujo.Puerta.existe(1));
+
+    Escena otra;
+    otra.puerta(4, 0);
+    otra.ventana(1, 6);
+    EliminaPuerta(otra.dibujo, 4);
+    EXPECT_EQ(otra.grupo(1), 0);
+    EXPECT_TRUE(otra.dibujo.Ventana.existe(1));
 }
 
-TEST(AgruparParedes, ElGrupoMayorPasaEnteroAlMenor) {
-    Dibujo dibujo = conGrupos({5, 3, 5, 3, 4}, 6);
-    AgruparParedes(dibujo);
-    EXPECT_EQ(gruposDe(dibujo), (Grupos{3, 3, 3, 3, 4}));
-    dibujo = conGrupos({3, 5, 5, 3, 4}, 6);
-    AgruparParedes(dibujo);
-    EXPECT_EQ(gruposDe(dibujo), (Grupos{3, 3, 3, 3, 4}));
-    EXPECT_EQ(dibujo.TotalGrupos, 6) << "numbers are never given back";
+TEST(Grupos, LaDeOtroMuroNoHereda) {
+    Escena escena;
+    escena.puerta(1, 0);
+    escena.puerta(2, 6, 2);
+    EliminaPuerta(escena.dibujo, 1);
+    EXPECT_EQ(escena.grupo(1), 0);
+    EXPECT_EQ(escena.dibujo.Puerta.en(2)->GrupoInicialPared, 6);
 }
 
-TEST(AgruparParedes, ElMismoGrupoQueda) {
-    Dibujo dibujo = conGrupos({3, 3, 3, 0, 4}, 6);
-    AgruparParedes(dibujo);
-    EXPECT_EQ(gruposDe(dibujo), (Grupos{3, 3, 3, 0, 4}));
+TEST(Grupos, UnMuroYaAgrupadoSigueAsiAlQuitarSusAberturas) {
+    Escena escena;
+    escena.ventana(1, 6);
+    EliminaVentana(escena.dibujo, 1);
+    EXPECT_EQ(escena.grupo(1), 6);
+    EliminaVentana(escena.dibujo, 1);
+    EliminaVentana(escena.dibujo, 0);
+    EliminaVentana(escena.dibujo, -3);
+    EXPECT_TRUE(escena.dibujo.Ventana.existe(0));
 }
 
-TEST(AgruparParedes, LasAberturasNoCambianDeGrupo) {
-    Dibujo dibujo = conGrupos({5, 3, 0, 0, 0}, 6);
-    ponVentana(dibujo, 1, 1, 5);
-    AgruparParedes(dibujo);
-    EXPECT_EQ(dibujo.Ventana.en(1)->GrupoInicialPared, 5);
+TEST(Grupos, EliminarLasAberturasDeUnMuroDejaLasDeOtros) {
+    Escena escena;
+    escena.ventana(2, 0);
+    escena.ventana(7, 6);
+    escena.ventana(9, 6, 2);
+    escena.puerta(1, 6);
+    escena.puerta(30, 6);
+    escena.puerta(31, 0, 2);
+    EliminaAberturasPared(escena.dibujo, 1);
+    EXPECT_EQ(escena.dibujo.Ventana.ultimo(), 9);
+    EXPECT_EQ(escena.dibujo.Puerta.ultimo(), 31);
+    for (const int i : {2, 7})
+        EXPECT_FALSE(escena.dibujo.Ventana.existe(i));
+    for (const int i : {1, 30})
+        EXPECT_FALSE(escena.dibujo.Puerta.existe(i));
+    EXPECT_EQ(escena.grupo(1), 0);
 }
 
-TEST(AgruparParedes, PasaPorLosHuecos) {
-    Dibujo dibujo = conGrupos({5, 3, 5, 0, 5}, 6);
-    dibujo.Pared.quitar(4);
-    AgruparParedes(dibujo);
-    EXPECT_EQ(dibujo.Pared.en(5)->NumeroGrupo, 3);
-    dibujo.Pared.quitar(1);
-    dibujo.Pared.en(2)->NumeroGrupo = 0;
-    AgruparParedes(dibujo);
-    EXPECT_EQ(dibujo.Pared.en(2)->NumeroGrupo, 0) << "a wall alone makes no group";
+TEST(Grupos, UnMuroSeVaConSusAberturasYLosDemasDelGrupoSiguen) {
+    Escena escena;
+    escena.puerta(1, 6);
+    EliminaPared(escena.dibujo, 1);
+    EXPECT_FALSE(escena.dibujo.Pared.existe(1));
+    EXPECT_FALSE(escena.dibujo.Puerta.existe(1));
+    EXPECT_EQ(escena.grupo(2), 6);
+    EliminaPared(escena.dibujo, 0);
+    EXPECT_TRUE(escena.dibujo.Pared.existe(0));
 }
-
-TEST(Desagrupar, SoloLasDelGrupoQuedanLibres) {
-    Dibujo dibujo = conGrupos({2, 3, 2, 0, 3}, 6);
-    dibujo.Pared.quitar(4);
-    Desagrupar(dibujo, 2);
-    EXPECT_EQ(dibujo.Pared.en(1)->NumeroGrupo, 0);
-    EXPECT_EQ(dibujo.Pared.en(2)->NumeroGrupo, 3);
-    EXPECT_EQ(dibujo.Pared.en(3)->NumeroGrupo, 0);
-    EXPECT_EQ(dibujo.Pared.en(5)->NumeroGrupo, 3);
-    EXPECT_EQ(dibujo.TotalGrupos, 6);
-}
-
-TEST(Desagrupar, LasAberturasDelGrupoSeVan) {
-    Dibujo dibujo = conGrupos({2, 3, 0, 0, 0}, 6);
-    ponVentana(dibujo, 1, 1, 0);
-    ponVentana(dibujo, 2, 2, 0);
-    ponPuerta(dibujo, 1, 1, 2);
-    Desagrupar(dibujo, 2);
-    EXPECT_FALSE(dibujo.Ventana.existe(1));
-    EXPECT_TRUE(dibujo.Ventana.existe(2));
-    EXPECT_FALSE(dibujo.Puerta.existe(1));
-    EXPECT_TRUE(dibujo.Pared.existe(1));
-}
-
-TEST(EliminaVentana, LaQueCerroElMuroPasaElDeber) {
-    Dibujo dibujo = conGrupos({9, 0, 0, 0, 0}, 9);
-    ponVentana(dibujo, 1, 1, 0);
-    ponVentana(dibujo, 2, 1, 9);
-    EliminaVentana(dibujo, 1);
-    EXPECT_EQ(dibujo.Ventana.en(2)->GrupoInicialPared, 0);
-    EXPECT_EQ(dibujo.Pared.en(1)->NumeroGrupo, 9);
-    EliminaVentana(dibujo, 2);
-    EXPECT_EQ(dibujo.Pared.en(1)->NumeroGrupo, 0);
-}
-
-TEST(EliminaVentana, NoVeLasPuertasNiLasPuertasVentanas) {
-    Dibujo dibujo = conGrupos({9, 8, 0, 0, 0}, 9);
-    ponVentana(dibujo, 1, 1, 0);
-    ponPuerta(dibujo, 1, 1, 9);
-    EliminaVentana(dibujo, 1);
-    EXPECT_TRUE(dibujo.Puerta.existe(1));
-    EXPECT_EQ(dibujo.Pared.en(1)->NumeroGrupo, 0);
-
-    ponPuerta(dibujo, 2, 2, 0);
-    ponVentana(dibujo, 2, 2, 8);
-    EliminaPuerta(dibujo, 2);
-    EXPECT_TRUE(dibujo.Ventana.existe(2));
-    EXPECT_EQ(dibujo.Pared.en(2)->NumeroGrupo, 0);
-}
-
-TEST(EliminaVentana, EnUnMuroYaUnidoNoLoLibera) {
-    Dibujo dibujo = conGrupos({4, 4, 0, 0, 0}, 4);
-    ponVentana(dibujo, 1, 1, 4);
-    EliminaVentana(dibujo, 1);
-    EXPECT_EQ(dibujo.Pared.en(1)->NumeroGrupo, 4);
-}
-
-TEST(EliminaPared, LasDemasDelGrupoSiguenEnEl) {
-    Dibujo dibujo = conGrupos({4, 4, 4, 0, 0}, 4);
-    ponVentana(dibujo, 1, 1, 4);
-    EliminaPared(dibujo, 1);
-    EXPECT_FALSE(dibujo.Pared.existe(1));
-    EXPECT_FALSE(dibujo.Ventana.existe(1));
-    EXPECT_EQ(dibujo.Pared.en(2)->NumeroGrupo, 4);
-    EXPECT_EQ(dibujo.Pared.en(3)->NumeroGrupo, 4);
-}
-
-}  // namespace bosquel::apoyo

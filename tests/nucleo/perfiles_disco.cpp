@@ -1,7 +1,9 @@
 #include "apoyo/perfil.h"
 
+#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -22,6 +24,26 @@ class SinPrivilegios {
     ~SinPrivilegios() { EXPECT_EQ(::seteuid(::getuid()), 0); }
     SinPrivilegios(const SinPrivilegios&) = delete;
     SinPrivilegios& operator=(const SinPrivilegios&) = delete;
+};
+
+/// While this lives, no file can grow beyond so many bytes, as on a disk that is full.
+class DiscoLleno {
+  public:
+    explicit DiscoLleno(rlim_t bytes) : senal_(std::signal(SIGXFSZ, SIG_IGN)) {
+        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &anterior_), 0);
+        const rlimit limite{bytes, anterior_.rlim_max};
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limite), 0);
+    }
+    ~DiscoLleno() {
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &anterior_), 0);
+        std::signal(SIGXFSZ, senal_);
+    }
+    DiscoLleno(const DiscoLleno&) = delete;
+    DiscoLleno& operator=(const DiscoLleno&) = delete;
+
+  private:
+    rlimit anterior_{};
+    void (*senal_)(int);
 };
 
 }  // namespace
@@ -73,9 +95,10 @@ TEST_F(DiscoPerfil, UnaCarpetaQueFaltaNoSeHace) {
 
 TEST_F(DiscoPerfil, EnUnaCarpetaDeSoloLecturaNoPasaNada) {
     poner("[s]\r\nk=1\r\n");
-    fs::permissions(carpeta_.ruta(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_exec);
+    fs::permissions(carpeta_.ruta(), fs::perms{0555});
     {
         const SinPrivilegios nadie;
+        EXPECT_EQ(leer("s", "k"), "1");
         guardar("s", "k", "2");
         GuardarIni(carpeta_ / "otro.ini", "s", "k", "2");
     }
@@ -84,17 +107,30 @@ TEST_F(DiscoPerfil, EnUnaCarpetaDeSoloLecturaNoPasaNada) {
     EXPECT_EQ(carpeta_.cuantos(), 1);
 }
 
+TEST_F(DiscoPerfil, UnDiscoLlenoDejaLoQueHabiaYSePuedeVolverAVolcar) {
+    poner("[s]\r\nk=1\r\n");
+    ArchivoPerfil archivo(ruta_);
+    archivo.guardar("s", "k", std::string(200, 'x'));
+    {
+        const DiscoLleno lleno(100);
+        archivo.volcar();
+    }
+    EXPECT_EQ(bytes(), "[s]\r\nk=1\r\n");
+    EXPECT_EQ(carpeta_.cuantos(), 1);
+    archivo.volcar();
+    EXPECT_EQ(leer("s", "k"), std::string(200, 'x'));
+}
+
 TEST_F(DiscoPerfil, UnArchivoDeSoloLecturaOIlegibleSeConserva) {
-    fs::permissions(carpeta_.ruta(), fs::perms::all);
-    for (const fs::perms modo : {fs::perms::owner_read | fs::perms::others_read, fs::perms::none,
-                                 fs::perms::owner_write | fs::perms::others_write}) {
+    fs::permissions(carpeta_.ruta(), fs::perms{0777});
+    for (const fs::perms modo : {fs::perms{0444}, fs::perms{0222}, fs::perms{0000}}) {
         poner("[s]\r\nk=1\r\n");
         fs::permissions(ruta_, modo);
         {
             const SinPrivilegios nadie;
             guardar("s", "j", "2");
         }
-        fs::permissions(ruta_, fs::perms::all);
+        fs::permissions(ruta_, fs::perms{0777});
         EXPECT_EQ(bytes(), "[s]\r\nk=1\r\n");
     }
     EXPECT_EQ(carpeta_.cuantos(), 1);
@@ -102,16 +138,16 @@ TEST_F(DiscoPerfil, UnArchivoDeSoloLecturaOIlegibleSeConserva) {
 
 TEST_F(DiscoPerfil, LosPermisosSeConservan) {
     poner("[s]\r\nk=1\r\n");
-    fs::permissions(ruta_, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_exec);
+    fs::permissions(ruta_, fs::perms{0610});
     guardar("s", "k", "2");
-    EXPECT_EQ(permisos(ruta_), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_exec);
+    EXPECT_EQ(permisos(ruta_), fs::perms{0610});
 }
 
 TEST_F(DiscoPerfil, UnArchivoNuevoSigueLaMascaraDelProceso) {
     const mode_t anterior = ::umask(027);
     guardar("s", "k", "1");
     ::umask(anterior);
-    EXPECT_EQ(permisos(ruta_), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    EXPECT_EQ(permisos(ruta_), fs::perms{0640});
 }
 
 TEST_F(DiscoPerfil, UnEnlaceSeSigue) {

@@ -148,6 +148,12 @@ TEST_F(LecturaPerfil, UnNuloAcabaUnNombreYUnValor) {
     EXPECT_EQ(bytes(), "[s\0x]\r\nk\0y=u\r\n"sv);
 }
 
+TEST_F(LecturaPerfil, LosBlancosDeDelanteDelNuloTampocoCuentan) {
+    poner("[s \0x]\r\nk \0y=v \0w\r\n"sv);
+    EXPECT_EQ(leer("s", "k"), "v");
+    EXPECT_EQ(leer("s \0"sv, "k \0"sv), "v");
+}
+
 TEST_F(LecturaPerfil, LosNombresNoDistinguenMayusculas) {
     poner(
         "[ba\xD1"
