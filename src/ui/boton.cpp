@@ -23,8 +23,8 @@ QColor tenue(const QPalette& paleta, int parte) {
 
 }  // namespace
 
-Boton::Boton(const QString& nombre, const QString& rotulo, const QString& imagen, QWidget* padre)
-    : QAbstractButton(padre), imagen_(imagen) {
+Boton::Boton(const QString& nombre, const QString& rotulo, QString imagen, QWidget* padre)
+    : QAbstractButton(padre), imagen_(std::move(imagen)) {
     setObjectName(nombre);
     setText(rotulo);
     setAccessibleName(rotulo);

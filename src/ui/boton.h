@@ -12,7 +12,7 @@ class Boton final : public QAbstractButton {
 
   public:
     /// `imagen` is the name of a drawing of the program; empty for a caption alone.
-    Boton(const QString& nombre, const QString& rotulo, const QString& imagen, QWidget* padre);
+    Boton(const QString& nombre, const QString& rotulo, QString imagen, QWidget* padre);
 
     bool bordeElevado() const { return bordeElevado_; }
     void ponerBordeElevado(bool elevado);

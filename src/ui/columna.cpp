@@ -8,6 +8,14 @@
 
 namespace bosquel {
 
+/// A group of buttons, and what a click on one of them does.
+struct GrupoDeBotones {
+    const char* nombre;
+    std::span<const BotonDePaleta> botones;
+    std::span<const char* const> imagenes = {};
+    void (Bosquel::*pulsar)(int) = nullptr;
+};
+
 namespace {
 
 constexpr int margen = 2;
@@ -19,28 +27,26 @@ constexpr int hueco = 8;   // between groups
 constexpr int letra = 11;  // pixels
 constexpr int ancho = 2 * margen + 2 * anchoBoton + separacion;
 
-using Imagenes = std::span<const char* const>;
-
 constexpr std::array imagenesRelacion{"paralela", "esquina", "union", "separar"};
 constexpr std::array imagenesTipo{"muebles", "bano", "cocina", "division", "escalera", "electrico"};
 constexpr std::array imagenesUsuario{"muro", "tabique", "pilar", "texto", "puerta", "ventana"};
 
-/// A palette of element buttons, and what a click on one does.
+constexpr GrupoDeBotones relaciones{"BttOperacion", BttOperacion, imagenesRelacion,
+                                    &Bosquel::pulsarOperacion};
+constexpr GrupoDeBotones selector{"BttTipo", BttTipo, imagenesTipo, &Bosquel::pulsarTipo};
+
 struct PaletaDeBotones {
     const char* panel;
-    const char* grupo;
-    std::span<const BotonDePaleta> botones;
-    Imagenes imagenes = {};
-    void (Bosquel::*pulsar)(int) = nullptr;
+    GrupoDeBotones grupo;
 };
 
 /// By the values of `Paleta`.
 constexpr std::array<PaletaDeBotones, 5> paletas{
-    {{"FrMuebles", "BttMueble", BttMueble},
-     {"FrBaño", "BttBaño", BttBaño},
-     {"FrCocina", "BttCocina", BttCocina},
-     {"FrUsuario", "BttUsuario", BttUsuario, imagenesUsuario, &Bosquel::pulsarUsuario},
-     {"FrElectrico", "BttElectrico", BttElectrico}}};
+    {{"FrMuebles", {"BttMueble", BttMueble}},
+     {"FrBaño", {"BttBaño", BttBaño}},
+     {"FrCocina", {"BttCocina", BttCocina}},
+     {"FrUsuario", {"BttUsuario", BttUsuario, imagenesUsuario, &Bosquel::pulsarUsuario}},
+     {"FrElectrico", {"BttElectrico", BttElectrico}}}};
 
 /// Two abreast.
 QRect sitio(std::size_t indice, int y) {
@@ -52,19 +58,6 @@ QRect sitio(std::size_t indice, int y) {
 
 int altoDe(std::size_t botones) {
     return static_cast<int>((botones + 1) / 2) * (altoBoton + separacion);
-}
-
-std::vector<Boton*> ponerBotones(const QString& grupo, std::span<const BotonDePaleta> botones,
-                                 Imagenes imagenes, QWidget* padre, int y) {
-    std::vector<Boton*> puestos;
-    for (std::size_t i = 0; i < botones.size(); ++i) {
-        auto* boton = new Boton(QString("%1_%2").arg(grupo).arg(i), aQString(botones[i].rotulo),
-                                i < imagenes.size() ? imagenes[i] : "", padre);
-        boton->setGeometry(sitio(i, y));
-        boton->setEnabled(botones[i].disponible);
-        puestos.push_back(boton);
-    }
-    return puestos;
 }
 
 QLabel* ponerRotulo(const QString& nombre, const QString& rotulo, QWidget* padre, int y) {
@@ -86,10 +79,11 @@ Columna::Columna(Bosquel& bosquel, QWidget* padre) : QWidget(padre), bosquel_(bo
     int y = margen;
     ponerRotulo("lblRelaciones", "Relaciones", this, y);
     y += altoRotulo;
-    ponerBotones("BttOperacion", BttOperacion, imagenesRelacion, this, y);
-    y += altoDe(BttOperacion.size()) + hueco;
-    ponerSelector(y);
-    y += altoDe(BttTipo.size()) + hueco;
+    poner(relaciones, this, y);
+    y += altoDe(relaciones.botones.size()) + hueco;
+    for (const Boton* boton : poner(selector, this, y))
+        connect(boton, &Boton::cruzado, this, [this] { bosquel_.cruzarVentana(); });
+    y += altoDe(selector.botones.size()) + hueco;
     letrero_ = ponerRotulo("Letrero", {}, this, y);
     y += altoRotulo;
     ponerPaletas(y);
@@ -97,23 +91,27 @@ Columna::Columna(Bosquel& bosquel, QWidget* padre) : QWidget(padre), bosquel_(bo
     mostrarPaleta();
 }
 
-void Columna::ponerSelector(int y) {
-    selector_ = ponerBotones("BttTipo", BttTipo, imagenesTipo, this, y);
-    for (std::size_t i = 0; i < selector_.size(); ++i) {
-        connect(selector_[i], &Boton::clicked, this, [this, i] { bosquel_.pulsarTipo(static_cast<int>(i)); });
-        connect(selector_[i], &Boton::cruzado, this, [this] { bosquel_.cruzarVentana(); });
+std::vector<Boton*> Columna::poner(const GrupoDeBotones& grupo, QWidget* padre, int y) {
+    std::vector<Boton*> puestos;
+    for (std::size_t i = 0; i < grupo.botones.size(); ++i) {
+        auto* boton = new Boton(QString("%1_%2").arg(grupo.nombre).arg(i), aQString(grupo.botones[i].rotulo),
+                                i < grupo.imagenes.size() ? grupo.imagenes[i] : "", padre);
+        boton->setGeometry(sitio(i, y));
+        boton->setEnabled(grupo.botones[i].disponible);
+        if (grupo.pulsar)
+            connect(boton, &Boton::clicked, this,
+                    [this, pulsar = grupo.pulsar, i] { std::invoke(pulsar, bosquel_, static_cast<int>(i)); });
+        puestos.push_back(boton);
     }
+    return puestos;
 }
 
 void Columna::ponerPaletas(int y) {
     for (const PaletaDeBotones& paleta : paletas) {
         auto* panel = new QWidget(this);
         panel->setObjectName(paleta.panel);
-        panel->setGeometry(0, y, ancho, altoDe(paleta.botones.size()));
-        const auto botones = ponerBotones(paleta.grupo, paleta.botones, paleta.imagenes, panel, 0);
-        for (std::size_t i = 0; paleta.pulsar && i < botones.size(); ++i)
-            connect(botones[i], &Boton::clicked, this,
-                    [this, &paleta, i] { std::invoke(paleta.pulsar, bosquel_, static_cast<int>(i)); });
+        panel->setGeometry(0, y, ancho, altoDe(paleta.grupo.botones.size()));
+        poner(paleta.grupo, panel, 0);
         paneles_.push_back(panel);
     }
 }

@@ -9,6 +9,7 @@
 namespace bosquel {
 
 class Boton;
+struct GrupoDeBotones;
 
 /// The column at the window's left: the relations between walls, the palette selector, and one palette of
 /// element buttons at a time under its title. All buttons are of one size and nothing jumps when the palette
@@ -21,13 +22,12 @@ class Columna final : public QWidget {
     void mostrarPaleta();
 
   private:
-    void ponerSelector(int y);
+    std::vector<Boton*> poner(const GrupoDeBotones& grupo, QWidget* padre, int y);
     void ponerPaletas(int y);
 
     Bosquel& bosquel_;
     QLabel* letrero_ = nullptr;
     std::vector<QWidget*> paneles_;  ///< by the values of `Paleta`
-    std::vector<Boton*> selector_;
 };
 
 }  // namespace bosquel

@@ -3,6 +3,7 @@
 #include "ui/entrada_forma.h"
 #include "ui/hoja_widget.h"
 #include "ui/opciones_forma.h"
+#include "ui/paralelas_forma.h"
 #include "ui/pared_prop_forma.h"
 #include "ui/puerta_prop_forma.h"
 #include "ui/textos.h"
@@ -71,6 +72,9 @@ void PlataformaQt::mostrar(Entrada& dialogo) {
 }
 void PlataformaQt::mostrar(Opciones& dialogo) {
     OpcionesForma(dialogo, ventana_).exec();
+}
+void PlataformaQt::mostrar(Paralelas& dialogo) {
+    ParalelasForma(dialogo, ventana_).exec();
 }
 void PlataformaQt::mostrar(ParedProp& dialogo) {
     ParedPropForma(dialogo, ventana_).exec();

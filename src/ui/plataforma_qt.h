@@ -15,6 +15,7 @@ class PlataformaQt final : public Plataforma {
     Respuesta mensaje(const Mensaje& mensaje) override;
     void mostrar(Entrada& dialogo) override;
     void mostrar(Opciones& dialogo) override;
+    void mostrar(Paralelas& dialogo) override;
     void mostrar(ParedProp& dialogo) override;
     void mostrar(PuertaProp& dialogo) override;
     void mostrar(VentanaProp& dialogo) override;

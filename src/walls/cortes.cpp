@@ -135,6 +135,7 @@ class Cortador {
 
     void anadirPieza(const Pared& pared, Sitio principio) const {
         const int indice = CreaParedComo(dibujo_, pared);
+        if (indice == 0) return;
         Pared& pieza = *dibujo_.Pared.en(indice);
         pieza.NumeroGrupo = pared.NumeroGrupo;
         asignar(pieza.InicialX, puntos_[principio.uno].x);

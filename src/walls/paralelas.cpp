@@ -53,6 +53,7 @@ void Paralelas::Aplicar() {
     if (!pared) return;
     if (const auto metros = realTecleado(TxtDistancia)) asignar(dibujo_.DistParalela, *metros);
     const int indice = CreaParedComo(dibujo_, *pared);
+    if (indice == 0) return;
     Pared& copia = *dibujo_.Pared.en(indice);
     const double paso = (copia.ancho() + dibujo_.DistParalela * milimetros) * dibujo_.FactorZoomActual;
     const int direccion = hacia(elegido, pared->Angulo);

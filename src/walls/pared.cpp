@@ -101,17 +101,17 @@ void RedibujaPared(Dibujo& dibujo, int indice, bool seleccionada) {
 
 int CreaParedComo(Dibujo& dibujo, const Pared& pared) {
     const int indice = dibujo.Pared.contador;
-    Pared& nueva = dibujo.Pared.crear(indice);
-    avanzar(dibujo.Pared.contador);
-    nueva.Tipo = pared.Tipo;
-    nueva.AnchoMuro = pared.AnchoMuro;
-    nueva.AnchoTabique = pared.AnchoTabique;
-    nueva.Longitud = pared.Longitud;
-    nueva.Angulo = pared.Angulo;
-    nueva.NumeroGrupo = 0;
-    nueva.Estado = estadoEdicion;
-    nueva.Visible1 = true;
-    nueva.Visible2 = true;
+    Pared* nueva = dibujo.Pared.crearSiguiente();
+    if (!nueva) return 0;
+    nueva->Tipo = pared.Tipo;
+    nueva->AnchoMuro = pared.AnchoMuro;
+    nueva->AnchoTabique = pared.AnchoTabique;
+    nueva->Longitud = pared.Longitud;
+    nueva->Angulo = pared.Angulo;
+    nueva->NumeroGrupo = 0;
+    nueva->Estado = estadoEdicion;
+    nueva->Visible1 = true;
+    nueva->Visible2 = true;
     return indice;
 }
 

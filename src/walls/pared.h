@@ -18,7 +18,7 @@ void DibujaPared(Dibujo& dibujo, int indice, bool seleccionada);
 void RedibujaPared(Dibujo& dibujo, int indice, bool seleccionada);
 
 /// Creates a wall of the kind, the widths, the angle and the length of `pared`: free, as good as applied,
-/// with both caps. It has no place and is not drawn yet. Gives its index.
+/// with both caps. It has no place and is not drawn yet. Gives its index, 0 if there is none left to give.
 int CreaParedComo(Dibujo& dibujo, const Pared& pared);
 
 /// Keeps lines 1 and 3 as they are and builds the caps and the grips from them; a cap shows if `Visible1` or

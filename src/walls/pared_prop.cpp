@@ -28,7 +28,7 @@ void leerLongitud(double& destino, const std::string& texto) {
 }  // namespace
 
 ParedProp::ParedProp(Dibujo& dibujo, int indice) : dibujo_(dibujo), indice_(indice) {
-    const Pared* pared = dibujo.Pared.en(indice);
+    const Pared* pared = this->pared();
     if (!pared) return;
     txtLongitud = formatoMetros(pared->Longitud / milimetros);
     TxtAnchoMuro = formatoMetros(pared->AnchoMuro / milimetros);
@@ -41,6 +41,10 @@ ParedProp::ParedProp(Dibujo& dibujo, int indice) : dibujo_(dibujo), indice_(indi
     if (!pilar_) tipo_ = pared->esMuro() ? 0 : 1;
     TxtInicialX = textoCoordenada(pared->InicialX, dibujo.FactorZoomActual);
     TxtInicialY = textoCoordenada(pared->InicialY, dibujo.FactorZoomActual);
+}
+
+Pared* ParedProp::pared() const {
+    return indice_ > 0 ? dibujo_.Pared.en(indice_) : nullptr;
 }
 
 void ParedProp::elegirAngulo(int etiqueta) {
@@ -61,7 +65,7 @@ void ParedProp::escribir(Pared& pared) const {
 }
 
 void ParedProp::Aplicar() {
-    Pared* pared = dibujo_.Pared.en(indice_);
+    Pared* pared = this->pared();
     if (!pared) return;
     if (ChkPredeterminar) {
         Pared& modelo = dibujo_.Pared.modelo();
@@ -71,11 +75,11 @@ void ParedProp::Aplicar() {
     }
     escribir(*pared);
     DibujaPared(dibujo_, indice_, true);
-    pared->Estado = estadoEdicion;
+    if (pared->Estado == estadoNuevo) pared->Estado = estadoEdicion;
 }
 
 void ParedProp::Cancelar() {
-    if (const Pared* pared = dibujo_.Pared.en(indice_); pared && pared->Estado == estadoNuevo)
+    if (const Pared* pared = this->pared(); pared && pared->Estado == estadoNuevo)
         EliminaPared(dibujo_, indice_);
 }
 

@@ -17,7 +17,7 @@ class ParedProp {
     static constexpr std::array<std::string_view, 13> EtiquetaAngulo{
         "90º", "75º", "60º", "45º", "30º", "15º", "0º", "-15º", "-30º", "-45º", "-60º", "-75º", "-90º"};
 
-    /// A wall that does not exist gives an empty dialog that changes nothing.
+    /// A wall that does not exist, and the model, give an empty dialog that changes nothing.
     ParedProp(Dibujo& dibujo, int indice);
 
     std::string TxtInicialX, TxtInicialY;  ///< shown only
@@ -43,6 +43,7 @@ class ParedProp {
     void Cancelar();
 
   private:
+    Pared* pared() const;
     void escribir(Pared& pared) const;
 
     Dibujo& dibujo_;

@@ -252,3 +252,19 @@ TEST(DialogoPared, DeUnMuroQueNoExisteEstaVacioYNoCambiaNada) {
     EXPECT_EQ(escena.modelo().Angulo, 0);
     EXPECT_TRUE(escena.dibujo.Pared.existe(1));
 }
+
+TEST(DialogoPared, ElModeloNoSeEdita) {
+    Dibujo dibujo;
+    ParedProp dialogo(dibujo, 0);
+    dialogo.txtLongitud = "9,00";
+    dialogo.Aplicar();
+    EXPECT_EQ(dibujo.Pared.modelo().Longitud, 4000);
+    EXPECT_FALSE(dibujo.Pared.modelo().lineas[0].Visible);
+}
+
+TEST(DialogoPared, AplicarDejaUnEstadoQueNoEsNuevo) {
+    Dibujo dibujo;
+    dibujo.Pared.crear(1).Estado = "Otro";
+    ParedProp(dibujo, 1).Aplicar();
+    EXPECT_EQ(dibujo.Pared.en(1)->Estado, "Otro");
+}

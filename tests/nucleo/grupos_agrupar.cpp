@@ -1,6 +1,5 @@
-#include "walls/grupos.h"
-
 #include "apoyo/uniones_muros.h"
+#include "walls/grupos.h"
 
 #include <gtest/gtest.h>
 

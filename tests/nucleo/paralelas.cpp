@@ -151,6 +151,15 @@ TEST(Paralelas, DeUnMuroQueNoExisteNoHaceNada) {
     EXPECT_FALSE(dialogo.Line1().Visible);
 }
 
+TEST(Paralelas, SinIndiceParaLaCopiaNoHayCopia) {
+    Dibujo dibujo = planoDe({{1000, 5000, 0}});
+    dibujo.Pared.contador = 0;
+    Paralelas dialogo(dibujo, 1);
+    dialogo.Aplicar();
+    EXPECT_EQ(dibujo.Pared.ultimo(), 1);
+    EXPECT_FALSE(dibujo.Pared.modelo().lineas[0].Visible);
+}
+
 TEST(Paralelas, SeAbreAlSoltarEnUnMuro) {
     Banco banco;
     banco.ponMuro({.inicio = {3000, 4000}, .angulo = 0});

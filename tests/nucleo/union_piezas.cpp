@@ -77,6 +77,15 @@ TEST(UnionX, LaPiezaHeredaDeSuMuro) {
     EXPECT_EQ(dibujo.IndiceActual, 4) << "the last piece is the current element";
 }
 
+TEST(UnionX, SinIndicesParaLasPiezasSoloSeCortaLoQueHay) {
+    Dibujo dibujo = cruz(5000, 4000);
+    dibujo.Pared.contador = 32767;
+    une(dibujo);
+    EXPECT_EQ(linea(dibujo, 1, 1), (Segmento{1000, 3000, 2000, 3000, true}));
+    EXPECT_EQ(linea(dibujo, 2, 1), (Segmento{2000, 5000, 2000, 3200, true}));
+    EXPECT_EQ(dibujo.Pared.ultimo(), 2);
+}
+
 TEST(UnionX, LasLongitudesSeMidenDeNuevo) {
     Dibujo dibujo = cruz(5000, 4000);
     dibujo.FactorZoomActual = 0.5;  // the lines stand: the same strokes are now twice as many millimetres
