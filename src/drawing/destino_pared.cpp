@@ -1,5 +1,6 @@
 #include "drawing/destino_pared.h"
 
+#include "drawing/aberturas.h"
 #include "walls/esquina.h"
 #include "walls/grupos.h"
 #include "walls/paralelas.h"
@@ -100,13 +101,15 @@ struct Destino {
     void (*hacer)(Sesion&, int);
 };
 
-constexpr std::array<Destino, 6> destinos{{
+constexpr std::array<Destino, 8> destinos{{
     {Modo::Seleccion, true, situarParalela},
     {Modo::PrimeraPared, false, elegirPrimera<Modo::SegundaPared>},
     {Modo::SegundaPared, true, elegirSegunda<esquina>},
     {Modo::Union1, false, elegirPrimera<Modo::Union2>},
     {Modo::Union2, true, elegirSegunda<unionDeParedes>},
     {Modo::Separar, true, separar},
+    {Modo::Ventana, true, situarVentana},
+    {Modo::Puerta, true, situarPuerta},
 }};
 
 }  // namespace

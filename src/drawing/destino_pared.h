@@ -4,8 +4,9 @@
 
 namespace bosquel {
 
-/// The release on a wall in a mode in which the wall is the target of a command: parallel, corner, union and
-/// separate. The command runs, or waits for its second wall. False if the mode is none of theirs.
+/// The release on a wall in a mode in which the wall is the target of a command: parallel, corner, union,
+/// separate, a new window or door. The command runs, or waits for its second wall. False if the mode is none
+/// of theirs.
 bool elegirPared(Sesion& sesion, int indice);
 
 }  // namespace bosquel

@@ -7,10 +7,11 @@
 
 namespace bosquel {
 
-/// A grip of a wall that stands under the pointer.
+/// A grip that stands under the pointer: of a wall, a window or a door.
 struct Diana {
+    Clase clase = Clase::Pared;
     int indice = 0;
-    PinzaDePared pinza = PinzaDePared::inicial;
+    PinzaDePared pinza = PinzaDePared::inicial;  ///< windows and doors have one only
 };
 
 /// The sheet's pointer pipeline. It finds what stands under the pointer, keeps it from press to release, and

@@ -3,6 +3,7 @@
 #include "drawing/seleccion.h"
 #include "drawing/vista.h"
 #include "model/numeros.h"
+#include "openings/abertura.h"
 #include "walls/pared.h"
 #include "walls/pared_prop.h"
 
@@ -58,9 +59,19 @@ void situarPared(Sesion& sesion, float X, float Y) {
     mostrar(sesion, dialogo);
 }
 
+template <class T>
+void soltarMarca(Dibujo& dibujo) {
+    const int indice = dibujo.*Rasgos<T>::bajoPuntero;
+    const T* cruzada = abertura<T>(dibujo, indice);
+    if (cruzada && (cruzada->*Rasgos<T>::pinza).BackColor != rojo) deseleccionar<T>(dibujo, indice);
+}
+
+/// A red grip belongs to the selected element and stays.
 void soltarMarcas(Dibujo& dibujo) {
     const Pared* pared = dibujo.Pared.en(dibujo.ParedBajoPuntero);
     if (pared && pared->ParedPick.BackColor != rojo) DeseleccionaPared(dibujo, dibujo.ParedBajoPuntero);
+    soltarMarca<Ventana>(dibujo);
+    soltarMarca<Puerta>(dibujo);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "drawing/paletas.h"
 
+#include "drawing/aberturas.h"
 #include "drawing/archivo.h"
 #include "drawing/seleccion.h"
 
@@ -69,6 +70,11 @@ void pulsarUsuario(Sesion& sesion, int indice) {
     CheckAutoSaving(sesion, true);
     if (indice >= 0 && static_cast<std::size_t>(indice) < tiposDePared.size())
         crearPared(sesion, tiposDePared[static_cast<std::size_t>(indice)]);
+    if (indice == datos(Clase::Puerta).boton || indice == datos(Clase::Ventana).boton) {
+        // No wall was ever laid: the gate stays shut until the next command.
+        if (sesion.dibujo.Pared.contador == 1) return;
+        crearAbertura(sesion, indice == datos(Clase::Puerta).boton ? Clase::Puerta : Clase::Ventana);
+    }
     CheckAutoSaving(sesion, false);
 }
 

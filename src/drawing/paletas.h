@@ -29,7 +29,7 @@ inline constexpr std::array<BotonDePaleta, 6> BttBaño{
 inline constexpr std::array<BotonDePaleta, 6> BttCocina{
     {{"Nevera"}, {"Cocina"}, {"Fregad."}, {"Lavado."}, {"Lavade."}, {"Vertede."}}};
 inline constexpr std::array<BotonDePaleta, 6> BttUsuario{
-    {{"Muro", true}, {"Tabique", true}, {"Pilar", true}, {"Texto"}, {"Puerta"}, {"Ventana"}}};
+    {{"Muro", true}, {"Tabique", true}, {"Pilar", true}, {"Texto"}, {"Puerta", true}, {"Ventana", true}}};
 inline constexpr std::array<BotonDePaleta, 6> BttElectrico{
     {{"Luz"}, {"Llave"}, {"Enchufe"}, {"Pulsador"}, {"Señal"}, {"Cuadro"}}};
 

@@ -5,6 +5,7 @@
 #include "drawing/seleccion.h"
 #include "drawing/vista.h"
 #include "model/numeros.h"
+#include "openings/aberturas_pared.h"
 #include "walls/pared.h"
 
 #include <algorithm>
@@ -50,10 +51,15 @@ void seguirA(const Sesion& sesion, Pared& pared, PinzaDePared cual) {
     asignar(pared.ParedPick.Top, static_cast<double>(arrastrada.Top) + sesion.DesfaseGrips[desfase + 1]);
 }
 
-/// From here to the release the wall is painted over what stands still.
+void ensuciarConAberturas(Dibujo& dibujo, int indice, const Pared& pared) {
+    ensuciar(dibujo, pared);
+    ensuciarAberturasPared(dibujo, indice);
+}
+
+/// From here to the release the wall is painted over what stands still, and its openings with it.
 void empezarMovimiento(Sesion& sesion, int indice, Pared& pared) {
     if (pared.EnMovimiento) return;
-    ensuciar(sesion.dibujo, pared);
+    ensuciarConAberturas(sesion.dibujo, indice, pared);
     pared.EnMovimiento = true;
     sesion.paredesEnMovimiento.push_back(static_cast<std::int16_t>(indice));
 }
@@ -115,6 +121,7 @@ void MoverPared(Sesion& sesion, int indice) {
     MueveTapasPared(*pared);
     GuardaLineasPared(sesion.dibujo, indice);
     ensuciar(sesion.dibujo, *pared);
+    MoverPuertasVentanasPared(sesion.dibujo, indice);
 }
 
 void AlinearPared(Sesion& sesion, int indice) {
@@ -171,7 +178,7 @@ void terminarMovimiento(Sesion& sesion) {
     for (const int indice : sesion.paredesEnMovimiento)
         if (Pared* pared = sesion.dibujo.Pared.en(indice)) {
             pared->EnMovimiento = false;
-            ensuciar(sesion.dibujo, *pared);
+            ensuciarConAberturas(sesion.dibujo, indice, *pared);
         }
     sesion.paredesEnMovimiento.clear();
 }

@@ -1,6 +1,9 @@
 #include "drawing/seleccion.h"
 
+#include "drawing/aberturas.h"
 #include "model/numeros.h"
+#include "openings/puerta.h"
+#include "openings/ventana.h"
 #include "walls/grupos.h"
 #include "walls/pared.h"
 #include "walls/pared_prop.h"
@@ -48,10 +51,16 @@ void eliminarPared(Sesion& sesion, int indice, bool forzar) {
 
 void QuitarSeleccion(Dibujo& dibujo) {
     if (dibujo.ElementoActual == Clase::Pared) DeseleccionaPared(dibujo, dibujo.ParedBajoPuntero);
+    if (dibujo.ElementoActual == Clase::Ventana) DeseleccionaVentana(dibujo, dibujo.VentanaBajoPuntero);
+    if (dibujo.ElementoActual == Clase::Puerta) DeseleccionaPuerta(dibujo, dibujo.PuertaBajoPuntero);
 }
 
 void MostrarPropiedades(Sesion& sesion) {
-    if (sesion.dibujo.ElementoActual == Clase::Pared) AbreParedProp(sesion, sesion.dibujo.IndiceActual);
+    const auto clase = sesion.dibujo.ElementoActual;
+    const int indice = sesion.dibujo.IndiceActual;
+    if (clase == Clase::Pared) AbreParedProp(sesion, indice);
+    if (clase == Clase::Ventana) AbreVentanaProp(sesion, indice);
+    if (clase == Clase::Puerta) AbrePuertaProp(sesion, indice);
 }
 
 void EliminarElemento(Sesion& sesion, bool Forzar) {

@@ -1,5 +1,7 @@
 #include "drawing/vista.h"
 #include "model/numeros.h"
+#include "openings/puerta.h"
+#include "openings/ventana.h"
 #include "walls/pared.h"
 
 #include <cmath>
@@ -50,7 +52,15 @@ void ampliar(Dibujo& dibujo, int indice, Pared& pared) {
     DeseleccionaPared(dibujo, indice);
 }
 
-void ampliar(Dibujo&, int, Abertura&) {}  // has no place of its own
+void ampliar(Dibujo& dibujo, int indice, Ventana&) {
+    RedibujaVentana(dibujo, indice);
+    DeseleccionaVentana(dibujo, indice);
+}
+
+void ampliar(Dibujo& dibujo, int indice, Puerta&) {
+    RedibujaPuerta(dibujo, indice);
+    DeseleccionaPuerta(dibujo, indice);
+}
 
 void ampliar(Dibujo& dibujo, int, TextoLibre& texto) {
     escalarLugar(texto, dibujo.RelacionZoom);

@@ -4,6 +4,7 @@
 #include "model/geometria.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -171,7 +172,12 @@ struct Ventana : Abertura {
     std::string Tipo = "Tabique";
     std::array<Segmento, 8> lineas;
     Pinza VentanaPick;
+
+    std::array<const Pinza*, 1> pinzas() const { return {&VentanaPick}; }
 };
+
+/// The lines of a door that only tell the swing of a leaf.
+inline constexpr std::size_t cuerdaPuerta = 8, segundaCuerdaPuerta = 12;
 
 /// `Longitud` is that of one leaf.
 struct Puerta : Abertura {
@@ -184,6 +190,8 @@ struct Puerta : Abertura {
     std::string OrientacionLateral = "Izquierda";  ///< "Izquierda", "Derecha" or "Doble"
     std::array<Segmento, 12> lineas;
     Pinza PuertaPick;
+
+    std::array<const Pinza*, 1> pinzas() const { return {&PuertaPick}; }
 };
 
 struct TextoLibre {

@@ -1,5 +1,7 @@
 #include "persistence/archivo_dibujo.h"
 
+#include "openings/puerta.h"
+#include "openings/ventana.h"
 #include "persistence/campos.h"
 #include "walls/pared.h"
 
@@ -29,7 +31,7 @@ constexpr std::tuple camposModelos{
 };
 
 /// Doors and windows share one key: written from the doors, read for both.
-constexpr std::tuple camposVentanas{
+constexpr std::tuple camposModeloVentana{
     Campo{"ColorCarpinteria", [](auto& dibujo) -> auto& { return dibujo.Ventana.modelo().LineColor; }, "0"},
 };
 
@@ -63,6 +65,28 @@ constexpr std::tuple camposLineasPared{
     Campo{"Visible1", &Pared::Visible1, "Verdadero"},
     Campo{"Visible2", &Pared::Visible2, "Verdadero"},
 };
+
+/// An opening's lines do not stand in the file: they follow from its wall.
+constexpr std::tuple camposAbertura{
+    Campo{"Alineacion",        &Abertura::Alineacion},
+    Campo{"AnchoMuro",         &Abertura::AnchoMuro},
+    Campo{"AnchoTabique",      &Abertura::AnchoTabique},
+    Campo{"Angulo",            &Abertura::Angulo},
+    Campo{"Distancia",         &Abertura::Distancia},
+    Campo{"Estado",            &Abertura::Estado},
+    Campo{"GrupoInicialPared", &Abertura::GrupoInicialPared},
+    Campo{"Longitud",          &Abertura::Longitud},
+    Campo{"NumeroPared",       &Abertura::NumeroPared},
+    Campo{"Orientacion",       &Abertura::Orientacion},
+};
+
+constexpr std::tuple camposVentana{
+    Campo{"Tipo", &Ventana::Tipo},
+};
+
+constexpr std::tuple camposPuerta{
+    Campo{"OrientacionLateral", &Puerta::OrientacionLateral},
+};
 // clang-format on
 
 std::string seccion(Clase clase, int indice) {
@@ -80,8 +104,8 @@ void porContadores(D& dibujo, Paso paso) {
 /// A width that no wall has: it tells a section that is not there.
 constexpr double anchoDeNadie = -1000;
 
-bool falta(const ArchivoPerfil& archivo, std::string_view seccionPared) {
-    const auto texto = archivo.buscar(seccionPared, "AnchoMuro");
+bool falta(const ArchivoPerfil& archivo, std::string_view nombre) {
+    const auto texto = archivo.buscar(nombre, "AnchoMuro");
     return !texto || realDeTexto(*texto) == anchoDeNadie;
 }
 
@@ -99,6 +123,43 @@ void leerPared(const ArchivoPerfil& archivo, Dibujo& dibujo, int indice) {
     GuardaLineasPared(dibujo, indice);
 }
 
+/// What the two kinds of openings differ in for the file.
+template <class Campos>
+struct FormatoAbertura {
+    Clase clase;
+    const Campos& propios;
+    void (*colocar)(Dibujo&, int, bool);
+    void (*deseleccionar)(Dibujo&, int);
+};
+
+constexpr FormatoAbertura formatoVentana{Clase::Ventana, camposVentana, ColocaVentana, DeseleccionaVentana};
+constexpr FormatoAbertura formatoPuerta{Clase::Puerta, camposPuerta, ColocaPuerta, DeseleccionaPuerta};
+
+template <class T, class Campos>
+void escribirAberturas(ArchivoPerfil& archivo, const Coleccion<T>& coleccion,
+                       const FormatoAbertura<Campos>& formato) {
+    coleccion.recorrer(0, coleccion.contador - 1, [&](int indice, const T& abertura) {
+        const std::string nombre = seccion(formato.clase, indice);
+        escribirCampos(archivo, nombre, abertura, camposAbertura);
+        escribirCampos(archivo, nombre, abertura, formato.propios);
+    });
+}
+
+template <class T, class Campos>
+void leerAberturas(const ArchivoPerfil& archivo, Dibujo& dibujo, Coleccion<T>& coleccion,
+                   const FormatoAbertura<Campos>& formato) {
+    for (int i = 0; i < coleccion.contador; ++i) {
+        const std::string nombre = seccion(formato.clase, i);
+        if (falta(archivo, nombre)) continue;
+        T& abertura = i > 0 ? coleccion.crear(i) : coleccion.modelo();
+        leerCampos(archivo, nombre, abertura, camposAbertura);
+        leerCampos(archivo, nombre, abertura, formato.propios);
+        if (i == 0) continue;
+        formato.colocar(dibujo, i, true);
+        formato.deseleccionar(dibujo, i);
+    }
+}
+
 }  // namespace
 
 void escribirDibujo(ArchivoPerfil& archivo, const Dibujo& dibujo) {
@@ -113,6 +174,8 @@ void escribirDibujo(ArchivoPerfil& archivo, const Dibujo& dibujo) {
         escribirCampos(archivo, nombre, pared, camposPared);
         escribirCampos(archivo, nombre, pared, camposLineasPared);
     });
+    escribirAberturas(archivo, dibujo.Ventana, formatoVentana);
+    escribirAberturas(archivo, dibujo.Puerta, formatoPuerta);
 }
 
 void leerCabecera(const ArchivoPerfil& archivo, Dibujo& dibujo) {
@@ -122,12 +185,14 @@ void leerCabecera(const ArchivoPerfil& archivo, Dibujo& dibujo) {
     });
     leerCampos(archivo, seccionColores, dibujo, camposColores);
     leerCampos(archivo, seccionCabecera, dibujo, camposModelos);
-    leerCampos(archivo, seccionCabecera, dibujo, camposVentanas);
+    leerCampos(archivo, seccionCabecera, dibujo, camposModeloVentana);
 }
 
 void leerElementos(const ArchivoPerfil& archivo, Dibujo& dibujo) {
     for (int i = 0; i < dibujo.Pared.contador; ++i)
         leerPared(archivo, dibujo, i);
+    leerAberturas(archivo, dibujo, dibujo.Ventana, formatoVentana);
+    leerAberturas(archivo, dibujo, dibujo.Puerta, formatoPuerta);
 }
 
 }  // namespace bosquel

@@ -15,6 +15,8 @@ class Entrada;
 class Opciones;
 class Paralelas;
 class ParedProp;
+class PuertaProp;
+class VentanaProp;
 
 enum class Icono : std::uint8_t { informacion, pregunta };
 enum class Botones : std::uint8_t { aceptar, siNo, siNoCancelar };
@@ -52,6 +54,8 @@ class Plataforma {
     virtual void mostrar(Entrada& dialogo) = 0;
     virtual void mostrar(Opciones& dialogo) = 0;
     virtual void mostrar(ParedProp& dialogo) = 0;
+    virtual void mostrar(PuertaProp& dialogo) = 0;
+    virtual void mostrar(VentanaProp& dialogo) = 0;
     virtual void mostrar(Paralelas& dialogo) = 0;
 
     /// The chosen path, as it was typed; nothing if the user cancels.

@@ -1,5 +1,7 @@
 #include "ui/pintura_hoja.h"
 
+#include "openings/abertura.h"
+#include "openings/trazar_abertura.h"
 #include "ui/superficie_qt.h"
 #include "walls/pared.h"
 #include "walls/trazar_pared.h"
@@ -58,18 +60,16 @@ void pintarPinza(QPainter& pintor, const Pinza& pinza, double escala) {
     pintor.drawRect(QRect(esquina, QSize(lado - 1, lado - 1)));
 }
 
-/// Walls and their grips in the z-order: grips sent to the back lie under all strokes, those brought to the
-/// front over them.
+/// Walls, openings and their grips in the z-order: grips sent to the back lie under all strokes, those
+/// brought to the front over them; openings lie over walls.
 class Capas {
   public:
-    Capas(QPainter& pintor, const Sesion& sesion, double escala)
-        : pintor_(pintor), color_(sesion.dibujo.Pared.modelo().LineColor), escala_(escala) {}
+    Capas(QPainter& pintor, const Dibujo& dibujo, double escala)
+        : pintor_(pintor), dibujo_(dibujo), escala_(escala) {}
 
-    void anadir(const Pared& pared) {
-        paredes_.push_back(&pared);
-        for (const Pinza* pinza : pared.pinzas())
-            if (pinza->Visible) pinzas_.push_back(pinza);
-    }
+    void anadir(const Pared& pared) { anadir(paredes_, pared); }
+    void anadir(const Ventana& ventana) { anadir(ventanas_, ventana); }
+    void anadir(const Puerta& puerta) { anadir(puertas_, puerta); }
 
     void pintar() {
         std::stable_sort(pinzas_.begin(), pinzas_.end(),
@@ -78,20 +78,41 @@ class Capas {
                                           [](const Pinza* pinza) { return pinza->orden >= 0; });
         for (auto pinza = pinzas_.begin(); pinza != delante; ++pinza)
             pintarPinza(pintor_, **pinza, escala_);
-        SuperficieQt superficie(pintor_, escala_, {});
-        for (const Pared* pared : paredes_)
-            TrazarPared(superficie, *pared, color_, 1);
+        pintarTrazos();
         for (auto pinza = delante; pinza != pinzas_.end(); ++pinza)
             pintarPinza(pintor_, **pinza, escala_);
     }
 
   private:
+    template <class T>
+    void anadir(std::vector<const T*>& capa, const T& elemento) {
+        capa.push_back(&elemento);
+        for (const Pinza* pinza : elemento.pinzas())
+            if (pinza->Visible) pinzas_.push_back(pinza);
+    }
+
+    void pintarTrazos() {
+        SuperficieQt superficie(pintor_, escala_, {});
+        for (const Pared* pared : paredes_)
+            TrazarPared(superficie, *pared, dibujo_.Pared.modelo().LineColor, 1);
+        for (const Ventana* ventana : ventanas_)
+            TrazarVentana(superficie, *ventana, dibujo_.Ventana.modelo().LineColor, 1);
+        for (const Puerta* puerta : puertas_)
+            TrazarPuerta(superficie, *puerta, dibujo_.Puerta.modelo().LineColor, 1);
+    }
+
     QPainter& pintor_;
-    Color color_;
+    const Dibujo& dibujo_;
     double escala_;
     std::vector<const Pared*> paredes_;
+    std::vector<const Ventana*> ventanas_;
+    std::vector<const Puerta*> puertas_;
     std::vector<const Pinza*> pinzas_;
 };
+
+bool enMovimiento(const Dibujo&, const Pared& pared) {
+    return pared.EnMovimiento;
+}
 
 }  // namespace
 
@@ -99,18 +120,30 @@ void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, dou
     pintor.fillRect(zona, colorQt(blanco));
     pintarCuadricula(pintor, sesion.cuadricula, zona, escala);
     const Recuadro visible = aUnidadesDeHoja(zona, escala);
-    Capas capas(pintor, sesion, escala);
-    sesion.dibujo.Pared.recorrer([&](int, const Pared& pared) {
-        const auto extension = pared.EnMovimiento ? std::nullopt : contorno(pared);
-        if (extension && extension->toca(visible)) capas.anadir(pared);
-    });
+    const Dibujo& dibujo = sesion.dibujo;
+    Capas capas(pintor, dibujo, escala);
+    const auto anadir = [&](int, const auto& elemento) {
+        const auto extension = enMovimiento(dibujo, elemento) ? std::nullopt : contorno(elemento);
+        if (extension && extension->toca(visible)) capas.anadir(elemento);
+    };
+    dibujo.Pared.recorrer(anadir);
+    dibujo.Ventana.recorrer(anadir);
+    dibujo.Puerta.recorrer(anadir);
     capas.pintar();
 }
 
 void pintarEnMovimiento(QPainter& pintor, const Sesion& sesion, double escala) {
-    Capas capas(pintor, sesion, escala);
+    const Dibujo& dibujo = sesion.dibujo;
+    Capas capas(pintor, dibujo, escala);
     for (const int indice : sesion.paredesEnMovimiento)
-        if (const Pared* pared = sesion.dibujo.Pared.en(indice)) capas.anadir(*pared);
+        if (const Pared* pared = dibujo.Pared.en(indice)) capas.anadir(*pared);
+    const auto anadir = [&](int, const auto& abertura) {
+        if (enMovimiento(dibujo, abertura)) capas.anadir(abertura);
+    };
+    if (!sesion.paredesEnMovimiento.empty()) {
+        dibujo.Ventana.recorrer(anadir);
+        dibujo.Puerta.recorrer(anadir);
+    }
     capas.pintar();
     if (!sesion.Vector.Visible) return;
     const Segmento& vector = sesion.Vector;

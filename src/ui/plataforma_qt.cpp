@@ -5,8 +5,10 @@
 #include "ui/opciones_forma.h"
 #include "ui/paralelas_forma.h"
 #include "ui/pared_prop_forma.h"
+#include "ui/puerta_prop_forma.h"
 #include "ui/textos.h"
 #include "ui/ventana_bosquel.h"
+#include "ui/ventana_prop_forma.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -76,6 +78,12 @@ void PlataformaQt::mostrar(Paralelas& dialogo) {
 }
 void PlataformaQt::mostrar(ParedProp& dialogo) {
     ParedPropForma(dialogo, ventana_).exec();
+}
+void PlataformaQt::mostrar(PuertaProp& dialogo) {
+    PuertaPropForma(dialogo, ventana_).exec();
+}
+void PlataformaQt::mostrar(VentanaProp& dialogo) {
+    VentanaPropForma(dialogo, ventana_).exec();
 }
 
 std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionArchivo& peticion) {

@@ -17,6 +17,8 @@ class PlataformaQt final : public Plataforma {
     void mostrar(Opciones& dialogo) override;
     void mostrar(Paralelas& dialogo) override;
     void mostrar(ParedProp& dialogo) override;
+    void mostrar(PuertaProp& dialogo) override;
+    void mostrar(VentanaProp& dialogo) override;
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) override;
     void cederEventos() override;
     void activar(Reloj reloj, bool activo) override;

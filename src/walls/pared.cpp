@@ -57,9 +57,13 @@ void ponerPinzas(Pared& pared, double factor) {
             pared.lineas[2].Y2);
 }
 
-/// The four lines from the polar fields. The rules of sign differ for x and y on purpose: together they keep
-/// the width on the side of rising x, and below the wall at 0 degrees.
-void trazarRectangulo(Pared& pared, double factor) {
+double ladoPorSuTramo(double x1, double x2, int angulo, double factor) {
+    return std::abs(x2 - x1) / std::cos(radianes(angulo)) / factor;
+}
+
+}  // namespace
+
+void TrazaLineasPared(Pared& pared, double factor) {
     const int angulo = pared.Angulo;
     const int absoluto = std::abs(angulo);
     const int signo = angulo >= 0 ? -1 : 1;
@@ -69,23 +73,19 @@ void trazarRectangulo(Pared& pared, double factor) {
     Segmento& uno = pared.lineas[0];
     poner(uno, pared.InicialX, pared.InicialY, PolarX(pared.InicialX, angulo, longitud),
           PolarY(pared.InicialY, angulo, longitud), true);
+    // The rules of sign differ for x and y on purpose: together they keep the width on the side of rising x,
+    // and below the wall at 0 degrees.
     const double x = PolarX(uno.X1, 90 - absoluto, ancho);
     const double y = PolarY(uno.Y1, signo * 90 - absoluto, ancho);
     poner(pared.lineas[2], x, y, PolarX(x, angulo, longitud), PolarY(y, angulo, longitud), true);
     ponerTapas(pared, true, true);
 }
 
-double ladoPorSuTramo(double x1, double x2, int angulo, double factor) {
-    return std::abs(x2 - x1) / std::cos(radianes(angulo)) / factor;
-}
-
-}  // namespace
-
 void DibujaPared(Dibujo& dibujo, int indice, bool seleccionada) {
     Pared* pared = dibujo.Pared.en(indice);
     if (!pared) return;
     const Cambio cambio(dibujo, *pared);
-    trazarRectangulo(*pared, dibujo.FactorZoomActual);
+    TrazaLineasPared(*pared, dibujo.FactorZoomActual);
     ponerPinzas(*pared, dibujo.FactorZoomActual);
     for (Pinza* pinza : pared->pinzas())
         alFondo(dibujo, *pinza);
@@ -190,14 +190,19 @@ void ActualizarPuntoInicialPared(Dibujo& dibujo, int indice) {
     pared->InicialY = pared->lineas[0].Y1;
 }
 
-std::optional<Recuadro> contorno(const Pared& pared) {
+std::optional<Recuadro> contorno(std::span<const Segmento> lineas, std::span<const Pinza* const> pinzas) {
     std::optional<Recuadro> total;
     const auto sumar = [&total](const Recuadro& parte) { total = total ? unir(*total, parte) : parte; };
-    for (const Segmento& linea : pared.lineas)
+    for (const Segmento& linea : lineas)
         if (linea.Visible) sumar(contorno(linea));
-    for (const Pinza* pinza : pared.pinzas())
+    for (const Pinza* pinza : pinzas)
         if (pinza->Visible) sumar(pinza->recuadro());
     return total;
+}
+
+std::optional<Recuadro> contorno(const Pared& pared) {
+    const std::array pinzas = pared.pinzas();
+    return contorno(pared.lineas, pinzas);
 }
 
 void ensuciar(Dibujo& dibujo, const Pared& pared) {

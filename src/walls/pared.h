@@ -2,6 +2,9 @@
 
 #include "model/dibujo.h"
 
+#include <optional>
+#include <span>
+
 namespace bosquel {
 
 // The wall: how its four lines and three grips follow from its fields, and how the fields follow from lines
@@ -22,6 +25,10 @@ int CreaParedComo(Dibujo& dibujo, const Pared& pared);
 /// `Visible2` says so.
 void ReconstruyePared(Dibujo& dibujo, int indice);
 
+/// The four lines of a plain rectangle from start point, `Angulo`, `Longitud` and width, all visible.
+/// `factor` is sheet units to a mm.
+void TrazaLineasPared(Pared& pared, double factor);
+
 /// The caps follow the long sides; whether they show does not change.
 void MueveTapasPared(Pared& pared);
 
@@ -40,7 +47,9 @@ void LongitudPared(const Dibujo& dibujo, Pared& VarPared);
 /// The start point of line 1 becomes that of the wall; nothing else changes.
 void ActualizarPuntoInicialPared(Dibujo& dibujo, int indice);
 
-/// The extent of all that the wall shows on the sheet, in sheet units; nothing if it shows nothing.
+/// The extent of what is visible of these, in sheet units; nothing if nothing is.
+std::optional<Recuadro> contorno(std::span<const Segmento> lineas, std::span<const Pinza* const> pinzas);
+/// The extent of all that the wall shows on the sheet.
 std::optional<Recuadro> contorno(const Pared& pared);
 /// The wall's extent has to be painted again.
 void ensuciar(Dibujo& dibujo, const Pared& pared);

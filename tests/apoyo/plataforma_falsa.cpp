@@ -2,6 +2,8 @@
 
 #include "drawing/entrada.h"
 #include "drawing/opciones.h"
+#include "openings/puerta_prop.h"
+#include "openings/ventana_prop.h"
 #include "walls/paralelas.h"
 #include "walls/pared_prop.h"
 
@@ -57,6 +59,16 @@ void PlataformaFalsa::mostrar(ParedProp& dialogo) {
         alAbrirPared(dialogo);
     else
         dialogo.Cancelar();
+}
+
+void PlataformaFalsa::mostrar(PuertaProp& dialogo) {
+    ++dialogosDePuerta;
+    if (alAbrirPuerta) alAbrirPuerta(dialogo);
+}
+
+void PlataformaFalsa::mostrar(VentanaProp& dialogo) {
+    ++dialogosDeVentana;
+    if (alAbrirVentana) alAbrirVentana(dialogo);
 }
 
 void PlataformaFalsa::mostrar(Paralelas& dialogo) {

@@ -19,6 +19,8 @@ class PlataformaFalsa : public Plataforma {
     std::function<void(Entrada&)> alAbrirEntrada;
     std::function<void(Opciones&)> alAbrirOpciones;
     std::function<void(ParedProp&)> alAbrirPared;
+    std::function<void(PuertaProp&)> alAbrirPuerta;
+    std::function<void(VentanaProp&)> alAbrirVentana;
     std::function<void(Paralelas&)> alAbrirParalelas;
     std::function<void()> alCederEventos;
 
@@ -31,6 +33,7 @@ class PlataformaFalsa : public Plataforma {
     std::vector<bool> autoSave;  ///< what the timer was told, on or off
     std::vector<ZonaSucia> repintados, pasos;
     int turnos = 0;  ///< of waiting, since somebody last set it back
+    int dialogosDePuerta = 0, dialogosDeVentana = 0;
     int entradas = 0, dialogosDePared = 0, dialogosDeOpciones = 0, dialogosDeParalelas = 0;
     int vistas = 0;
     bool terminado = false;
@@ -44,6 +47,8 @@ class PlataformaFalsa : public Plataforma {
     void mostrar(Entrada& dialogo) override;
     void mostrar(Opciones& dialogo) override;
     void mostrar(ParedProp& dialogo) override;
+    void mostrar(PuertaProp& dialogo) override;
+    void mostrar(VentanaProp& dialogo) override;
     void mostrar(Paralelas& dialogo) override;
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) override;
     void cederEventos() override;

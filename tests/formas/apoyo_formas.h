@@ -19,6 +19,8 @@ class PlataformaMuda : public Plataforma {
     void mostrar(Opciones&) override {}
     void mostrar(Paralelas&) override {}
     void mostrar(ParedProp&) override {}
+    void mostrar(PuertaProp&) override {}
+    void mostrar(VentanaProp&) override {}
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo&) override {
         return std::nullopt;
     }
