@@ -99,11 +99,12 @@ class Muestrario {
         porOrientacion(Clase::MblVertedero, &Dibujo::MblVertedero, rumbos);
     }
 
+    /// The railings matter most where there are three flights to have them.
     void escaleras() {
         for (const char* mano : {"D", "R"})
-            for (int tramos = 1; tramos <= 3; ++tramos)
-                for (const int angulo : {0, 90, 217})
-                    for (unsigned barandas = 0; barandas < 8; ++barandas)
+            for (const int angulo : {0, 217})
+                for (int tramos = 1; tramos <= 3; ++tramos)
+                    for (unsigned barandas = 0; barandas < 8; barandas += tramos == 3 ? 1 : 7)
                         escalera(mano, tramos, angulo, barandas);
     }
 
