@@ -53,18 +53,32 @@ std::optional<QLine> recortar(QPointF desde, QPointF hasta) {
     return QLine(enteros(desde + inicio * paso), enteros(desde + fin * paso));
 }
 
-void SuperficieQt::tomar(Color color, bool rellenar) {
+void SuperficieQt::ponerLapiz(Color color) {
     pintor_.setPen(QPen(colorQt(color), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    if (rellenar && relleno_ == Relleno::solido)
+}
+
+/// The painter's brush is the fill state, so that it is bare again when the fill state is.
+void SuperficieQt::ponerBrocha() {
+    if (relleno_ == Relleno::solido)
         pintor_.setBrush(colorQt(colorRelleno_));
     else
         pintor_.setBrush(Qt::NoBrush);
 }
 
+void SuperficieQt::FillStyle(Relleno relleno) {
+    relleno_ = relleno;
+    ponerBrocha();
+}
+
+void SuperficieQt::FillColor(Color color) {
+    colorRelleno_ = color;
+    ponerBrocha();
+}
+
 void SuperficieQt::trazarLinea(double x1, double y1, double x2, double y2, Color color) {
     const auto linea = recortar(enPixeles(x1, y1), enPixeles(x2, y2));
     if (!linea) return;
-    tomar(color, false);
+    ponerLapiz(color);
     pintor_.drawLine(*linea);
 }
 
@@ -73,7 +87,7 @@ void SuperficieQt::trazarCaja(double x1, double y1, double x2, double y2, Color 
     const QRectF cercano = entero & QRectF(-lejos, -lejos, 2 * lejos, 2 * lejos);
     const QPoint esquina = enteros(cercano.topLeft());
     const QPoint opuesta = enteros(cercano.bottomRight());
-    tomar(color, true);
+    ponerLapiz(color);
     pintor_.drawRect(QRect(esquina, QSize(opuesta.x() - esquina.x(), opuesta.y() - esquina.y())));
 }
 
@@ -82,17 +96,17 @@ void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
     const QPointF ejes(curva.ejeX() * escala_, curva.ejeY() * escala_);
     if (!cerca(centro) || !cerca(ejes)) return;
     const QRectF marco(centro - ejes, centro + ejes);
-    tomar(color, !curva.arco);
-    if (!curva.arco || curva.arco->inicio == curva.arco->fin) {
+    ponerLapiz(color);
+    if (!curva.arco) {
         pintor_.drawEllipse(marco);
         return;
     }
     double abertura = qRadiansToDegrees(curva.arco->fin - curva.arco->inicio);
-    if (abertura < 0) abertura += 360;
+    if (abertura <= 0) abertura += 360;
     QPainterPath camino;
     camino.arcMoveTo(marco, qRadiansToDegrees(curva.arco->inicio));
     camino.arcTo(marco, qRadiansToDegrees(curva.arco->inicio), abertura);
-    pintor_.drawPath(camino);
+    pintor_.strokePath(camino, pintor_.pen());
 }
 
 void SuperficieQt::Print(std::string_view texto) {

@@ -14,10 +14,12 @@ class SuperficieQt final : public SuperficieSalida {
   public:
     /// `escala` device pixels to a surface unit; the surface's origin falls on `origen`.
     SuperficieQt(QPainter& pintor, double escala, QPointF origen)
-        : pintor_(pintor), escala_(escala), origen_(origen) {}
+        : pintor_(pintor), escala_(escala), origen_(origen) {
+        pintor_.setBrush(Qt::NoBrush);
+    }
 
-    void FillStyle(Relleno relleno) override { relleno_ = relleno; }
-    void FillColor(Color color) override { colorRelleno_ = color; }
+    void FillStyle(Relleno relleno) override;
+    void FillColor(Color color) override;
     void CurrentX(double x) override { texto_.setX(x); }
     void CurrentY(double y) override { texto_.setY(y); }
     void ForeColor(Color color) override { colorTexto_ = color; }
@@ -31,7 +33,8 @@ class SuperficieQt final : public SuperficieSalida {
 
   private:
     QPointF enPixeles(double x, double y) const { return origen_ + QPointF(x, y) * escala_; }
-    void tomar(Color color, bool rellenar);
+    void ponerLapiz(Color color);
+    void ponerBrocha();
 
     QPainter& pintor_;
     double escala_;

@@ -3,6 +3,7 @@
 #include "furnishing/dibujar_elemento.h"
 #include "stairs_symbols/catalogo.h"
 #include "surface/grabadora.h"
+#include "surface/textos_superficie.h"
 
 #include <initializer_list>
 
@@ -124,8 +125,8 @@ class Muestrario {
 
     void simbolo(const char* nombre, double RectX, double RectY) {
         for (const double angulo : {0.0, 90.0, 210.0, 33.4})
-            anadir(Clase::Electrico, &Dibujo::Electrico,
-                   nombre + (" a" + std::to_string(angulo).substr(0, 5)), [=](Electrico& electrico) {
+            anadir(Clase::Electrico, &Dibujo::Electrico, nombre + (" a" + textoCorto(angulo)),
+                   [=](Electrico& electrico) {
                        ponerSimbolo(electrico, nombre);
                        electrico.RectX = RectX;
                        electrico.RectY = RectY;
