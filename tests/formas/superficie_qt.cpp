@@ -5,10 +5,12 @@
 #include "formas/apoyo_formas.h"
 #include "furnishing/dibujar_elemento.h"
 #include "furnishing/recuadro.h"
+#include "surface/escritor_svg.h"
 #include "ui/pintura_hoja.h"
 #include "walls/pared.h"
 
 #include <QImage>
+#include <QSvgRenderer>
 #include <cmath>
 #include <numbers>
 
@@ -221,29 +223,69 @@ TEST(SuperficieQt, UnTextoEmpiezaEnSuEsquinaYTieneSuCuerpo) {
     EXPECT_GT(abajo - arriba, 20);  // capitals of a type 40 pixels high
 }
 
-TEST(SuperficieQt, LasFigurasHuecasPintanSusTrazosYNadaMas) {
+namespace {
+
+/// A sample without fills on a picture of its own size.
+struct Encuadre {
+    explicit Encuadre(const Muestra& muestra_)
+        : muestra(muestra_),
+          dibujo(dibujoDe(muestra_, 1)),
+          caja(extensionDe(dibujo, muestra_.clase, 1).value()) {
+        escala = muestra.clase == Clase::Electrico ? 0.8 : 0.15;
+        origen = QPointF(10.3, 10.6) - QPointF(caja.Left, caja.Top) * escala;
+        tamano =
+            QSize(static_cast<int>(caja.Width * escala) + 24, static_cast<int>(caja.Height * escala) + 24);
+    }
+
+    void dibujar(SuperficieSalida& hoja) const {
+        DibujarElemento(salidaDe(dibujo, hoja, 1), dibujo, muestra.clase, 1);
+    }
+
+    QImage enPintor() const {
+        return pintado([this](SuperficieSalida& hoja) { dibujar(hoja); }, escala, origen, tamano);
+    }
+
+    QImage enSvg() const {
+        EscritorSvg escritor(
+            {-origen.x() / escala, -origen.y() / escala, tamano.width() / escala, tamano.height() / escala},
+            1 / escala, tamano.width());
+        dibujar(escritor);
+        QSvgRenderer lector(QByteArray::fromStdString(escritor.documento()));
+        QImage imagen = papel(tamano.width(), tamano.height());
+        QPainter pintor(&imagen);
+        lector.render(&pintor, QRectF(imagen.rect()));
+        return imagen;
+    }
+
+    const Muestra& muestra;
+    Dibujo dibujo;
+    Recuadro caja;
+    double escala;
+    QPointF origen;
+    QSize tamano;
+};
+
+/// Ink on every stroke, and none beside them.
+void esperarTrazos(const Encuadre& encuadre, const QImage& imagen) {
+    Sonda sonda(encuadre.tamano, encuadre.escala, encuadre.origen);
+    encuadre.dibujar(sonda);
+    const auto nombre = std::string(datos(encuadre.muestra.clase).nombre) + " " + encuadre.muestra.titulo;
+    for (const QPointF& punto : sonda.puntos)
+        ASSERT_TRUE(tintaCerca(imagen, punto.x(), punto.y())) << nombre;
+    for (int y = 0; y < imagen.height(); ++y)
+        for (int x = 0; x < imagen.width(); ++x)
+            ASSERT_TRUE(!tinta(imagen, x, y) || tinta(sonda.marca, x, y)) << nombre << " " << x << " " << y;
+}
+
+}  // namespace
+
+TEST(SuperficieQt, LasFigurasHuecasPintanSusTrazosYNadaMasComoEnElSvg) {
     for (const Muestra& muestra : muestrario()) {
         const bool sanitario = muestra.clase >= Clase::MblInodoro && muestra.clase <= Clase::MblUrinario;
         if (!sanitario && muestra.clase != Clase::Escalera && muestra.clase != Clase::Electrico) continue;
-        const Dibujo dibujo = dibujoDe(muestra, 1);
-        const double escala = muestra.clase == Clase::Electrico ? 0.8 : 0.15;
-        const Recuadro caja = extensionDe(dibujo, muestra.clase, 1).value();
-        const QPointF origen = QPointF(10.3, 10.6) - QPointF(caja.Left, caja.Top) * escala;
-        const QSize tamano(static_cast<int>(caja.Width * escala) + 24,
-                           static_cast<int>(caja.Height * escala) + 24);
-        const auto dibujar = [&](SuperficieSalida& hoja) {
-            DibujarElemento(salidaDe(dibujo, hoja, 1), dibujo, muestra.clase, 1);
-        };
-        const QImage imagen = pintado(dibujar, escala, origen, tamano);
-        Sonda sonda(tamano, escala, origen);
-        dibujar(sonda);
-        for (const QPointF& punto : sonda.puntos)
-            ASSERT_TRUE(tintaCerca(imagen, punto.x(), punto.y()))
-                << datos(muestra.clase).nombre << " " << muestra.titulo;
-        for (int y = 0; y < imagen.height(); ++y)
-            for (int x = 0; x < imagen.width(); ++x)
-                ASSERT_TRUE(!tinta(imagen, x, y) || tinta(sonda.marca, x, y))
-                    << datos(muestra.clase).nombre << " " << muestra.titulo << " " << x << " " << y;
+        const Encuadre encuadre(muestra);
+        esperarTrazos(encuadre, encuadre.enPintor());
+        esperarTrazos(encuadre, encuadre.enSvg());
     }
 }
 
