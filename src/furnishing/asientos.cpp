@@ -1,6 +1,7 @@
 #include "furnishing/figuras.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace bosquel {
 
@@ -39,7 +40,7 @@ void asientos(const Pluma& pluma, const Postura& postura, const MblAsiento& asie
     caja(pluma, postura, {alFondo ? F : 0, B / 2}, {B, n * W + B});
     caja(pluma, postura, {brazo, 0}, {F - B / 2, B});
     caja(pluma, postura, {brazo, B + n * W}, {F - B / 2, B});
-    for (double i = 0; i <= std::clamp(n - 1, 0.0, maximoEnFila); ++i)
+    for (int i = 0; i < cuantosEnFila(n); ++i)
         caja(pluma, postura, {alFondo ? 0 : B, B + i * W}, {F, W});
 }
 
@@ -53,6 +54,10 @@ void silla(const Pluma& pluma, const Postura& postura, double lado) {
 }
 
 }  // namespace
+
+int cuantosEnFila(double n) {
+    return static_cast<int>(std::clamp(std::floor(n), 1.0, 32767.0));
+}
 
 void figura(const Pluma& pluma, const MblAsiento& asiento) {
     for (const Postura& postura : posturasAsiento)

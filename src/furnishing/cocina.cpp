@@ -37,7 +37,7 @@ constexpr Lamina<3, 8> laminaNevera{{
 
 constexpr std::array<std::string_view, 4> rumbosLavadero{"W", "E", "S", "N"};
 
-constexpr Trazo trazosLavadero[9][4] = {
+constexpr Filas<9> trazosLavadero{{
     //  "W"                  "E"                   "S"                   "N"
     {Box(0, 0, 700, 400),  Box(0, 0, 700, 400),  Box(0, 0, 400, 700),  Box(0, 0, 400, 700)},
     {L(50, 60, 50, 350),   L(650, 60, 650, 350), L(60, 650, 350, 650), L(60, 50, 350, 50)},    // ribs
@@ -48,7 +48,7 @@ constexpr Trazo trazosLavadero[9][4] = {
     {B(350, 60, 640, 340), B(350, 60, 60, 340),  B(60, 350, 340, 60),  B(60, 350, 340, 640)},  // basin
     {C(550, 200, 15),      C(150, 200, 15),      C(200, 150, 15),      C(200, 550, 15)},       // drain
     {C(550, 200, 30),      C(150, 200, 30),      C(200, 150, 30),      C(200, 550, 30)},
-};
+}};
 
 constexpr Lamina<4, 4> laminaVertedero{{
     {"W", {Box(0, 0, 600, 600), B(60, 60, 540, 540), C(150, 300, 45), C(150, 300, 75)}},

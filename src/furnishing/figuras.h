@@ -29,8 +29,8 @@ void figura(const Pluma& pluma, const MblLavadora& lavadora);
 void figura(const Pluma& pluma, const MblLavadero& lavadero);
 void figura(const Pluma& pluma, const MblVertedero& vertedero);
 
-/// More seats, bowls or steps in a row than these are not drawn, whatever a file asks for.
-inline constexpr double maximoEnFila = 32767;
+/// How many seats or bowls a row of `n` has: one at least, and no more than 32767, whatever a file asks for.
+int cuantosEnFila(double n);
 
 /// The side that a kind holds as a text in centimetres, in mm; blanks around it come off.
 std::optional<double> ladoDeTexto(std::string_view texto);

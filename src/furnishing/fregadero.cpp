@@ -1,7 +1,5 @@
 #include "furnishing/figuras.h"
 
-#include <algorithm>
-
 namespace bosquel {
 
 namespace {
@@ -40,8 +38,8 @@ class Fregadero {
     void dibujar() const {
         cuadro(0, 0, 425 * senos_ + 300 * escurridor_ + 200 - 20, 490);
         if (postura_.escurridorDelante) escurridor(100);
-        for (double i = 1; i <= std::clamp(senos_, 1.0, maximoEnFila); ++i)
-            seno((i - 1) * 425 + (postura_.escurridorDelante ? 350 * escurridor_ + 300 : 275));
+        for (int i = 0; i < cuantosEnFila(senos_); ++i)
+            seno(i * 425.0 + (postura_.escurridorDelante ? 350 * escurridor_ + 300 : 275));
         if (!postura_.escurridorDelante) escurridor(425 * senos_ + 100);
     }
 

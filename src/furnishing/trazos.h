@@ -126,10 +126,13 @@ struct Disposicion {
 template <std::size_t Pasos, std::size_t Codigos>
 using Lamina = std::array<Disposicion<Pasos>, Codigos>;
 
-/// A sheet from a table with a row for each stroke and a column for each layout.
+/// A table with a row for each stroke and a column for each layout.
+template <std::size_t Pasos, std::size_t Codigos = 4>
+using Filas = std::array<std::array<Trazo, Codigos>, Pasos>;
+
 template <std::size_t Codigos, std::size_t Pasos>
 constexpr Lamina<Pasos, Codigos> porColumnas(const std::array<std::string_view, Codigos>& codigos,
-                                             const Trazo (&filas)[Pasos][Codigos]) {
+                                             const Filas<Pasos, Codigos>& filas) {
     Lamina<Pasos, Codigos> lamina{};
     for (std::size_t columna = 0; columna < Codigos; ++columna) {
         lamina[columna].codigo = codigos[columna];

@@ -9,13 +9,13 @@ namespace bosquel {
 struct PlantaEscalera {
     PlantaEscalera(const Salida& salida, const Escalera& escalera);
 
-    double d, m;                 ///< thickness of a railing, margin of the frame
-    std::array<double, 3> r;     ///< railings: `d`, or 0 for none
-    std::array<double, 3> L, W;  ///< length and width of each flight
-    double t;                    ///< going of a step
-    double e;                    ///< eye; never narrower than the second flight is long
-    double A, C;                 ///< the whole stair, along and across
-    double D;                    ///< side of the square in which it can turn
+    double d, m;                     ///< thickness of a railing, margin of the frame
+    std::array<double, 3> r{};       ///< railings: `d`, or 0 for none
+    std::array<double, 3> L{}, W{};  ///< length and width of each flight
+    double t;                        ///< going of a step
+    double e;                        ///< eye; never narrower than the second flight is long
+    double A, C;                     ///< the whole stair, along and across
+    double D;                        ///< side of the square in which it can turn
 };
 
 /// Draws a stair of one to three flights about the centre of its square, at any angle; the fill state is not

@@ -31,7 +31,7 @@ class EscritorSvg : public SuperficieSalida {
     void trazarCurva(const Curva& curva, Color color) override;
 
   private:
-    void cerrar(std::string elemento, Color color, bool relleno);
+    void cerrar(std::string trazo, Color color, bool relleno);
 
     std::string cabecera_, cuerpo_;
     Relleno relleno_ = Relleno::transparente;

@@ -1,5 +1,6 @@
 #include "surface/superficie_salida.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 
@@ -8,9 +9,7 @@ namespace bosquel {
 namespace {
 
 bool finitos(std::initializer_list<double> valores) {
-    for (const double valor : valores)
-        if (!std::isfinite(valor)) return false;
-    return true;
+    return std::all_of(valores.begin(), valores.end(), [](double valor) { return std::isfinite(valor); });
 }
 
 }  // namespace
