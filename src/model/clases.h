@@ -56,6 +56,7 @@ struct DatosClase {
     int desdeZoom;             ///< first index of the zoom pass: 0 where the model is kept in step
     bool zoomConContador;      ///< the zoom pass takes the counter's own index in
     bool eliminarConContador;  ///< so does the pass that empties the drawing
+    bool dibujarConContador;   ///< so does the pass that draws it all
 };
 
 const DatosClase& datos(Clase clase);

@@ -214,9 +214,11 @@ struct Escalera : Elemento {
     bool Resaltado = false;
 };
 
-/// The script is not stored here: it follows from `ObjectType`.
+/// What is drawn is `Guion`, the script of the symbol `ObjectType`: whoever gives the element a symbol gives it
+/// both (stairs_symbols/catalogo.h). The file holds the name alone.
 struct Electrico : ElementoConFondo {
     std::string ObjectType = "Punto de Luz";
+    std::string Guion;
     double RectX = 250, RectY = 250;
     double Angle = 0;
     bool Resaltado = false;

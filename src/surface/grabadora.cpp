@@ -1,34 +1,60 @@
 #include "surface/grabadora.h"
 
-#include <array>
-#include <charconv>
+#include "surface/textos_superficie.h"
 
 namespace bosquel {
 
-namespace {
-
-void anadirNumero(std::string& texto, float valor) {
-    std::array<char, 64> cifras{};
-    const auto fin = std::to_chars(cifras.data(), cifras.data() + cifras.size(), valor).ptr;
-    texto.append(" ").append(cifras.data(), fin);
-}
-
-void anadirColor(std::string& texto, Color color) {
-    static constexpr std::string_view hexadecimal = "0123456789ABCDEF";
-    const auto plano = static_cast<unsigned>(rgb(color));
-    texto += ' ';
-    for (const unsigned desplazamiento : {4U, 0U, 12U, 8U, 20U, 16U})
-        texto += hexadecimal[(plano >> desplazamiento) & 0xFU];
-}
-
-}  // namespace
-
-void Grabadora::Line(float x1, float y1, float x2, float y2, Color color) {
-    std::string trazo = "Line";
-    for (const float valor : {x1, y1, x2, y2})
-        anadirNumero(trazo, valor);
-    anadirColor(trazo, color);
+void Grabadora::anotar(std::string trazo, std::initializer_list<double> valores) {
+    for (const double valor : valores)
+        trazo.append(" ").append(textoCorto(valor));
     trazos_.push_back(std::move(trazo));
+}
+
+void Grabadora::anotar(std::string trazo, std::initializer_list<double> valores, Color color) {
+    anotar(std::move(trazo), valores);
+    trazos_.back().append(" ").append(textoColor(color));
+}
+
+void Grabadora::trazarLinea(double x1, double y1, double x2, double y2, Color color) {
+    anotar("Line", {x1, y1, x2, y2}, color);
+}
+
+void Grabadora::trazarCaja(double x1, double y1, double x2, double y2, Color color) {
+    anotar("Box", {x1, y1, x2, y2}, color);
+}
+
+void Grabadora::trazarCurva(const Curva& curva, Color color) {
+    const auto& [x, y, radio, arco, aspecto] = curva;
+    if (arco && aspecto != 1)
+        anotar("EllipticArc", {x, y, radio, arco->inicio, arco->fin, aspecto}, color);
+    else if (arco)
+        anotar("Arc", {x, y, radio, arco->inicio, arco->fin}, color);
+    else if (aspecto != 1)
+        anotar("Ellipse", {x, y, radio, aspecto}, color);
+    else
+        anotar("Circle", {x, y, radio}, color);
+}
+
+void Grabadora::FillStyle(Relleno relleno) {
+    anotar("FillStyle", {static_cast<double>(relleno)});
+}
+void Grabadora::FillColor(Color color) {
+    anotar("FillColor", {}, color);
+}
+void Grabadora::CurrentX(double x) {
+    anotar("CurrentX", {x});
+}
+void Grabadora::CurrentY(double y) {
+    anotar("CurrentY", {y});
+}
+void Grabadora::ForeColor(Color color) {
+    anotar("ForeColor", {}, color);
+}
+void Grabadora::FontSize(float puntos) {
+    anotar("FontSize", {puntos});
+}
+void Grabadora::Print(std::string_view texto) {
+    trazos_.push_back("Print " + std::string(texto));
 }
 
 }  // namespace bosquel

@@ -1,5 +1,7 @@
 #include "ui/pintura_hoja.h"
 
+#include "furnishing/dibujar_elemento.h"
+#include "furnishing/recuadro.h"
 #include "openings/abertura.h"
 #include "openings/trazar_abertura.h"
 #include "ui/superficie_qt.h"
@@ -110,6 +112,25 @@ class Capas {
     std::vector<const Pinza*> pinzas_;
 };
 
+/// The elements with a place of their own, from one kind to another in the order of the output. What lies a
+/// pixel outside of the part wanted may be rounded into it.
+void pintarElementos(QPainter& pintor, const Dibujo& dibujo, const Recuadro& visible, double escala,
+                     Clase primera, Clase ultima) {
+    SuperficieQt superficie(pintor, escala, {});
+    const Salida salida = salidaDe(dibujo, superficie, 1);
+    const Recuadro cerca{visible.Left - 1 / escala, visible.Top - 1 / escala, visible.Width + 2 / escala,
+                         visible.Height + 2 / escala};
+    for (const DatosClase& fila : todasLasClases()) {
+        if (fila.clase < primera || fila.clase > ultima) continue;
+        conColeccion(dibujo, fila.clase, [&](const auto& coleccion) {
+            coleccion.recorrer([&](int indice, const auto&) {
+                const auto extension = extensionDe(dibujo, fila.clase, indice);
+                if (extension && extension->toca(cerca)) DibujarElemento(salida, dibujo, fila.clase, indice);
+            });
+        });
+    }
+}
+
 bool enMovimiento(const Dibujo&, const Pared& pared) {
     return pared.EnMovimiento;
 }
@@ -129,7 +150,9 @@ void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, dou
     dibujo.Pared.recorrer(anadir);
     dibujo.Ventana.recorrer(anadir);
     dibujo.Puerta.recorrer(anadir);
+    pintarElementos(pintor, dibujo, visible, escala, Clase::MblMesa, Clase::MblVertedero);
     capas.pintar();
+    pintarElementos(pintor, dibujo, visible, escala, Clase::TextoLibre, Clase::Electrico);
 }
 
 void pintarEnMovimiento(QPainter& pintor, const Sesion& sesion, double escala) {

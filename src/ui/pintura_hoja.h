@@ -11,7 +11,7 @@ namespace bosquel {
 // pixels from the sheet's corner, and the painter's origin is that corner. `escala` is device pixels to a
 // sheet unit.
 
-/// Paper, grid, and all that stands still.
+/// Paper, grid, and all that stands still: furniture under the walls, texts, stairs and symbols over them.
 void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, double escala);
 
 /// What is being dragged, and the rubber line.

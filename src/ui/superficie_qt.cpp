@@ -1,6 +1,9 @@
 #include "ui/superficie_qt.h"
 
-#include <array>
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <QtMath>
+#include <algorithm>
 #include <cmath>
 
 namespace bosquel {
@@ -50,11 +53,72 @@ std::optional<QLine> recortar(QPointF desde, QPointF hasta) {
     return QLine(enteros(desde + inicio * paso), enteros(desde + fin * paso));
 }
 
-void SuperficieQt::Line(float x1, float y1, float x2, float y2, Color color) {
-    const auto linea = recortar(origen_ + QPointF(x1, y1) * escala_, origen_ + QPointF(x2, y2) * escala_);
+void SuperficieQt::ponerLapiz(Color color) {
+    pintor_.setPen(QPen(colorQt(color), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+}
+
+/// The painter's brush is the fill state, so that it is bare again when the fill state is.
+void SuperficieQt::ponerBrocha() {
+    if (relleno_ == Relleno::solido)
+        pintor_.setBrush(colorQt(colorRelleno_));
+    else
+        pintor_.setBrush(Qt::NoBrush);
+}
+
+void SuperficieQt::FillStyle(Relleno relleno) {
+    relleno_ = relleno;
+    ponerBrocha();
+}
+
+void SuperficieQt::FillColor(Color color) {
+    colorRelleno_ = color;
+    ponerBrocha();
+}
+
+void SuperficieQt::trazarLinea(double x1, double y1, double x2, double y2, Color color) {
+    const auto linea = recortar(enPixeles(x1, y1), enPixeles(x2, y2));
     if (!linea) return;
-    pintor_.setPen(QPen(colorQt(color), 1));
+    ponerLapiz(color);
     pintor_.drawLine(*linea);
+}
+
+void SuperficieQt::trazarCaja(double x1, double y1, double x2, double y2, Color color) {
+    const QRectF entero = QRectF(enPixeles(x1, y1), enPixeles(x2, y2)).normalized();
+    const QRectF cercano = entero & QRectF(-lejos, -lejos, 2 * lejos, 2 * lejos);
+    const QPoint esquina = enteros(cercano.topLeft());
+    const QPoint opuesta = enteros(cercano.bottomRight());
+    ponerLapiz(color);
+    pintor_.drawRect(QRect(esquina, QSize(opuesta.x() - esquina.x(), opuesta.y() - esquina.y())));
+}
+
+void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
+    const QPointF centro = enPixeles(curva.x, curva.y);
+    const QPointF ejes(curva.ejeX() * escala_, curva.ejeY() * escala_);
+    if (!cerca(centro) || !cerca(ejes)) return;
+    const QRectF marco(centro - ejes, centro + ejes);
+    ponerLapiz(color);
+    if (!curva.arco) {
+        pintor_.drawEllipse(marco);
+        return;
+    }
+    double abertura = qRadiansToDegrees(curva.arco->fin - curva.arco->inicio);
+    if (abertura <= 0) abertura += 360;
+    QPainterPath camino;
+    camino.arcMoveTo(marco, qRadiansToDegrees(curva.arco->inicio));
+    camino.arcTo(marco, qRadiansToDegrees(curva.arco->inicio), abertura);
+    pintor_.strokePath(camino, pintor_.pen());
+}
+
+void SuperficieQt::Print(std::string_view texto) {
+    QFont letra(QStringLiteral("sans-serif"));
+    letra.setStyleHint(QFont::SansSerif);
+    letra.setPixelSize(std::max(1, static_cast<int>(std::lround(puntos_ * unidadesPorPunto * escala_))));
+    const QPointF esquina = enPixeles(texto_.x(), texto_.y());
+    if (!cerca(esquina)) return;
+    pintor_.setFont(letra);
+    pintor_.setPen(colorQt(colorTexto_));
+    const QString linea = QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
+    pintor_.drawText(QPointF(enteros(esquina + QPointF(0, QFontMetricsF(letra).ascent()))), linea);
 }
 
 }  // namespace bosquel

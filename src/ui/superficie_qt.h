@@ -8,19 +8,41 @@
 
 namespace bosquel {
 
-/// A surface on a painter whose units are device pixels: strokes are one of them wide, whatever the density.
+/// A surface on a painter whose units are device pixels: strokes are one of them wide, whatever the density,
+/// and none is smoothed. A curve too great or too far away for a painter is left out.
 class SuperficieQt final : public SuperficieSalida {
   public:
     /// `escala` device pixels to a surface unit; the surface's origin falls on `origen`.
     SuperficieQt(QPainter& pintor, double escala, QPointF origen)
-        : pintor_(pintor), escala_(escala), origen_(origen) {}
+        : pintor_(pintor), escala_(escala), origen_(origen) {
+        pintor_.setBrush(Qt::NoBrush);
+    }
 
-    void Line(float x1, float y1, float x2, float y2, Color color) override;
+    void FillStyle(Relleno relleno) override;
+    void FillColor(Color color) override;
+    void CurrentX(double x) override { texto_.setX(x); }
+    void CurrentY(double y) override { texto_.setY(y); }
+    void ForeColor(Color color) override { colorTexto_ = color; }
+    void FontSize(float puntos) override { puntos_ = puntos; }
+    void Print(std::string_view texto) override;
+
+  protected:
+    void trazarLinea(double x1, double y1, double x2, double y2, Color color) override;
+    void trazarCaja(double x1, double y1, double x2, double y2, Color color) override;
+    void trazarCurva(const Curva& curva, Color color) override;
 
   private:
+    QPointF enPixeles(double x, double y) const { return origen_ + QPointF(x, y) * escala_; }
+    void ponerLapiz(Color color);
+    void ponerBrocha();
+
     QPainter& pintor_;
     double escala_;
     QPointF origen_;
+    Relleno relleno_ = Relleno::transparente;
+    Color colorRelleno_ = negro, colorTexto_ = negro;
+    QPointF texto_;  ///< where the next one stands, in surface units
+    double puntos_ = 8;
 };
 
 /// The colour as the toolkit has it.

@@ -84,6 +84,8 @@ TEST(Clases, LosPasosDelZoomEmpiezanEnElModeloSalvoEnParedesYAberturas) {
             fila.clase == Clase::Pared || fila.clase == Clase::Ventana || fila.clase == Clase::Puerta;
         EXPECT_EQ(fila.desdeZoom, enPared ? 1 : 0) << fila.nombre;
         EXPECT_EQ(fila.zoomConContador, fila.clase == Clase::Escalera) << fila.nombre;
+        EXPECT_EQ(fila.dibujarConContador, fila.clase == Clase::TextoLibre || fila.clase == Clase::Escalera)
+            << fila.nombre;
         EXPECT_EQ(fila.eliminarConContador, fila.clase == Clase::Escalera || fila.clase == Clase::Electrico)
             << fila.nombre;
     }
