@@ -6,7 +6,7 @@
 namespace bosquel {
 
 const Pared* paredTrazada(const Dibujo& dibujo, const Abertura& abertura) {
-    const Pared* pared = dibujo.Pared.en(abertura.NumeroPared);
+    const Pared* pared = abertura.NumeroPared > 0 ? dibujo.Pared.en(abertura.NumeroPared) : nullptr;
     return pared && pared->lineas[0].Visible ? pared : nullptr;
 }
 

@@ -94,7 +94,7 @@ void PuertaProp::Aplicar() {
     if (!puerta) return;
     escribir(*puerta, ladoEfectivo(lado_, puerta->Angulo));
     ColocaPuerta(dibujo_, indice_, true);
-    puerta->Estado = estadoEdicion;
+    if (puerta->Estado == estadoNuevo) puerta->Estado = estadoEdicion;
     if (Check1) escribir(dibujo_.Puerta.modelo(), lado_);
 }
 

@@ -62,7 +62,7 @@ void VentanaProp::Aplicar() {
     if (!ventana) return;
     escribir(*ventana);
     ColocaVentana(dibujo_, indice_, true);
-    ventana->Estado = estadoEdicion;
+    if (ventana->Estado == estadoNuevo) ventana->Estado = estadoEdicion;
     if (Check1) escribir(dibujo_.Ventana.modelo());
 }
 

@@ -132,6 +132,11 @@ struct FormatoAbertura {
     void (*deseleccionar)(Dibujo&, int);
 };
 
+// Clang does not deduce it from an aggregate until its 17.
+template <class Campos>
+FormatoAbertura(Clase, const Campos&, void (*)(Dibujo&, int, bool), void (*)(Dibujo&, int))
+    -> FormatoAbertura<Campos>;
+
 constexpr FormatoAbertura formatoVentana{Clase::Ventana, camposVentana, ColocaVentana, DeseleccionaVentana};
 constexpr FormatoAbertura formatoPuerta{Clase::Puerta, camposPuerta, ColocaPuerta, DeseleccionaPuerta};
 
