@@ -12,7 +12,7 @@ const Pared* paredTrazada(const Dibujo& dibujo, const Abertura& abertura) {
 
 bool enMovimiento(const Dibujo& dibujo, const Abertura& abertura) {
     const Pared* pared = dibujo.Pared.en(abertura.NumeroPared);
-    return pared && pared->EnMovimiento;
+    return pared != nullptr && pared->EnMovimiento;
 }
 
 std::string ladoEfectivo(const std::string& lado, int angulo) {
@@ -56,7 +56,7 @@ void ensuciar(Dibujo& dibujo, const Abertura& abertura, const std::optional<Recu
 
 template <class T>
 void seleccionar(Dibujo& dibujo, int indice) {
-    T* abierta = abertura<T>(dibujo, indice);
+    auto* abierta = abertura<T>(dibujo, indice);
     if (!abierta) return;
     DeseleccionaPared(dibujo, abierta->NumeroPared);
     deseleccionar<T>(dibujo, dibujo.*Rasgos<T>::bajoPuntero);

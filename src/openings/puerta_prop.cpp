@@ -17,7 +17,7 @@ constexpr double hojaCroquis = 720;
 
 PuertaProp::PuertaProp(Dibujo& dibujo, int indice)
     : AberturaProp(dibujo, abertura<Puerta>(dibujo, indice)), dibujo_(dibujo), indice_(indice) {
-    if (const Puerta* puerta = abertura<Puerta>(dibujo, indice)) {
+    if (const auto* puerta = abertura<Puerta>(dibujo, indice)) {
         if (puerta->Alineacion == "Izquierda") extremo_ = 0;
         if (puerta->Alineacion == "Derecha") extremo_ = 1;
         if (puerta->Orientacion == "Arriba") punto_ = Boton::Punto1;
@@ -90,7 +90,7 @@ void PuertaProp::escribir(Puerta& puerta, const std::string& lado) const {
 }
 
 void PuertaProp::Aplicar() {
-    Puerta* puerta = abertura<Puerta>(dibujo_, indice_);
+    auto* puerta = abertura<Puerta>(dibujo_, indice_);
     if (!puerta) return;
     escribir(*puerta, ladoEfectivo(lado_, puerta->Angulo));
     ColocaPuerta(dibujo_, indice_, true);

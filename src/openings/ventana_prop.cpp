@@ -9,7 +9,7 @@ namespace bosquel {
 
 VentanaProp::VentanaProp(Dibujo& dibujo, int indice)
     : AberturaProp(dibujo, abertura<Ventana>(dibujo, indice)), dibujo_(dibujo), indice_(indice) {
-    if (const Ventana* ventana = abertura<Ventana>(dibujo, indice)) {
+    if (const auto* ventana = abertura<Ventana>(dibujo, indice)) {
         lado_ = ventana->Alineacion == "Derecha" ? Boton::Lado2 : Boton::Lado1;
         // A partition has no sides to choose from.
         punto_ = muro().esMuro() && ventana->Orientacion != "Arriba" ? Boton::Punto2 : Boton::Punto1;
@@ -58,7 +58,7 @@ void VentanaProp::escribir(Ventana& ventana) const {
 }
 
 void VentanaProp::Aplicar() {
-    Ventana* ventana = abertura<Ventana>(dibujo_, indice_);
+    auto* ventana = abertura<Ventana>(dibujo_, indice_);
     if (!ventana) return;
     escribir(*ventana);
     ColocaVentana(dibujo_, indice_, true);

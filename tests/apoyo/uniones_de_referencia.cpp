@@ -274,7 +274,7 @@ std::string PlanoDeReferencia::unir(int uno, int dos) {
         }
     }
     agrupar(uno, dos);
-    const std::string procedimiento = elegir(a1, b1);
+    std::string procedimiento = elegir(a1, b1);
     ejecutar(procedimiento);
     return procedimiento;
 }

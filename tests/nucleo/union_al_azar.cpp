@@ -206,8 +206,8 @@ TEST_P(UnionAlAzar, TodoSigueEnPieTrasCadaPaso) {
     Usuario usuario(GetParam());
     std::string ultimos;
     for (int i = 0; i < 400 && !testing::Test::HasFailure(); ++i) {
-        const std::string hecho = usuario.paso();
-        ultimos = ultimos.substr(ultimos.size() > 300 ? ultimos.size() - 300 : 0) + " | " + hecho;
+        ultimos.erase(0, ultimos.size() > 300 ? ultimos.size() - 300 : 0);
+        ultimos.append(" | ").append(usuario.paso());
         SCOPED_TRACE("step " + std::to_string(i) + ultimos);
         usuario.comprueba();
     }

@@ -4,7 +4,6 @@
 
 using namespace bosquel;
 using apoyo::Banco;
-using apoyo::Muro;
 
 namespace {
 
