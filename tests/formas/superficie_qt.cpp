@@ -230,12 +230,10 @@ struct Encuadre {
     explicit Encuadre(const Muestra& muestra_)
         : muestra(muestra_),
           dibujo(dibujoDe(muestra_, 1)),
-          caja(extensionDe(dibujo, muestra_.clase, 1).value()) {
-        escala = muestra.clase == Clase::Electrico ? 0.8 : 0.15;
-        origen = QPointF(10.3, 10.6) - QPointF(caja.Left, caja.Top) * escala;
-        tamano =
-            QSize(static_cast<int>(caja.Width * escala) + 24, static_cast<int>(caja.Height * escala) + 24);
-    }
+          caja(extensionDe(dibujo, muestra_.clase, 1).value()),
+          escala(muestra_.clase == Clase::Electrico ? 0.8 : 0.15),
+          origen(QPointF(10.3, 10.6) - QPointF(caja.Left, caja.Top) * escala),
+          tamano(static_cast<int>(caja.Width * escala) + 24, static_cast<int>(caja.Height * escala) + 24) {}
 
     void dibujar(SuperficieSalida& hoja) const {
         DibujarElemento(salidaDe(dibujo, hoja, 1), dibujo, muestra.clase, 1);

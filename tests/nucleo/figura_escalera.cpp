@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <utility>
 
 using namespace bosquel;
 using namespace bosquel::apoyo;
@@ -25,7 +26,8 @@ Dibujo conEscalera(const Escalera& escalera, double factor = 1) {
 /// The stair worked out in one go: every stroke by its ends.
 class Cuenta {
   public:
-    Cuenta(const Escalera& e, double factor, double escala) : e_(e), k_(factor * escala), escala_(escala) {}
+    Cuenta(Escalera e, double factor, double escala)
+        : e_(std::move(e)), k_(factor * escala), escala_(escala) {}
 
     std::vector<std::string> trazos() {
         const double d = k(50);

@@ -6,9 +6,11 @@
 #include "stairs_symbols/simbolo.h"
 #include "surface/grabadora.h"
 
+#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <utility>
 
 using namespace bosquel;
 using namespace bosquel::apoyo;
@@ -121,10 +123,16 @@ TEST(Guion, ElCatalogoSeLeeEnteroYUnNombreDesconocidoNoTieneGuion) {
     EXPECT_EQ(DrawObjects("Pulsador"), "CIRCLE(Exterior, [75|75], 75)\r\nCIRCLE(Interior, [75|75], 30)");
     for (const char* nombre : {"", "interruptor", "Enchufe ", "Lámpara"})
         EXPECT_EQ(DrawObjects(nombre), "") << nombre;
-    const std::pair<const char*, std::size_t> piezas[] = {
-        {"Punto de Luz", 5},      {"Interruptor", 3},     {"Conmutador", 5}, {"Enchufe", 2},
-        {"Enchufe de Fuerza", 4}, {"Pulsador", 2},        {"Señal TV", 5},   {"Enchufe Trifásico", 5},
-        {"Señal Teléfono", 3},    {"Cuadro Eléctrico", 9}};
+    const auto piezas = std::to_array<std::pair<const char*, std::size_t>>({{"Punto de Luz", 5},
+                                                                            {"Interruptor", 3},
+                                                                            {"Conmutador", 5},
+                                                                            {"Enchufe", 2},
+                                                                            {"Enchufe de Fuerza", 4},
+                                                                            {"Pulsador", 2},
+                                                                            {"Señal TV", 5},
+                                                                            {"Enchufe Trifásico", 5},
+                                                                            {"Señal Teléfono", 3},
+                                                                            {"Cuadro Eléctrico", 9}});
     for (const auto& [nombre, trazos] : piezas)
         EXPECT_EQ(dibujado(simbolo(nombre)).size(), trazos) << nombre;
 }
