@@ -77,7 +77,7 @@ class Dibujante {
   private:
     void segmento(const Segmento& linea, Color color, bool discontinuo = false) const {
         TrazarSegmento(salida_.superficie, linea, color, salida_.EscalaSalida,
-                       discontinuo ? Trazo::rayas : Trazo::continuo);
+                       discontinuo ? TipoDeTrazo::rayas : TipoDeTrazo::continuo);
     }
 
     const Salida& salida_;

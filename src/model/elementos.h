@@ -214,8 +214,8 @@ struct Escalera : Elemento {
     bool Resaltado = false;
 };
 
-/// What is drawn is `Guion`, the script of the symbol `ObjectType`: whoever gives the element a symbol gives it
-/// both (stairs_symbols/catalogo.h). The file holds the name alone.
+/// What is drawn is `Guion`, the script of the symbol `ObjectType`: whoever gives the element a symbol gives
+/// it both (stairs_symbols/catalogo.h). The file holds the name alone.
 struct Electrico : ElementoConFondo {
     std::string ObjectType = "Punto de Luz";
     std::string Guion;

@@ -15,7 +15,7 @@ void TrazarPuerta(SuperficieSalida& superficie, const Puerta& puerta, Color colo
         const bool cuerda = i + 1 == cuerdaPuerta || i + 1 == segundaCuerdaPuerta;
         if (lineas[i].Visible)
             TrazarSegmento(superficie, lineas[i], color, EscalaSalida,
-                           cuerda ? Trazo::rayas : Trazo::continuo);
+                           cuerda ? TipoDeTrazo::rayas : TipoDeTrazo::continuo);
     }
 }
 

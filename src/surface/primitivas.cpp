@@ -77,10 +77,10 @@ void TrazarElipse(SuperficieSalida& superficie, Color color, const Ovalo& ovalo)
 }
 
 void TrazarSegmento(SuperficieSalida& superficie, const Segmento& segmento, Color color, double EscalaSalida,
-                    Trazo trazo) {
+                    TipoDeTrazo trazo) {
     const Punto desde{simple(segmento.X1 * EscalaSalida), simple(segmento.Y1 * EscalaSalida)};
     const Punto hasta{simple(segmento.X2 * EscalaSalida), simple(segmento.Y2 * EscalaSalida)};
-    if (trazo == Trazo::continuo) return rayar(superficie, desde, hasta, color);
+    if (trazo == TipoDeTrazo::continuo) return rayar(superficie, desde, hasta, color);
     const double dx = redondear((static_cast<double>(segmento.X2) - segmento.X1) / 7);
     const double dy = redondear((static_cast<double>(segmento.Y2) - segmento.Y1) / 7);
     const auto punto = [&](int n) { return Punto{simple(desde.x + n * dx), simple(desde.y + n * dy)}; };

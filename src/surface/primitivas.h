@@ -44,12 +44,12 @@ struct Ovalo {
 };
 void TrazarElipse(SuperficieSalida& superficie, Color color, const Ovalo& ovalo);
 
-enum class Trazo : std::uint8_t { continuo, rayas };
+enum class TipoDeTrazo : std::uint8_t { continuo, rayas };
 
 /// Draws a segment given in sheet units: both ends times `EscalaSalida`, as 32-bit floats; a dashed one as
 /// four strokes of a seventh each. The dashes keep the length that they have on the sheet, whatever the
 /// scale, and the last one reaches to the end. What does not fit a 32-bit float is left out.
 void TrazarSegmento(SuperficieSalida& superficie, const Segmento& segmento, Color color, double EscalaSalida,
-                    Trazo trazo = Trazo::continuo);
+                    TipoDeTrazo trazo = TipoDeTrazo::continuo);
 
 }  // namespace bosquel

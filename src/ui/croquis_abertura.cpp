@@ -12,8 +12,8 @@ namespace bosquel {
 
 namespace {
 
-constexpr double unidadesPorPunto = 7.5;  // units of the sketch to a logical pixel
-constexpr int lado = static_cast<int>(2 * AberturaProp::alcance / unidadesPorPunto);
+constexpr double unidadesDelCroquis = 7.5;  // units of the sketch to a logical pixel
+constexpr int lado = static_cast<int>(2 * AberturaProp::alcance / unidadesDelCroquis);
 constexpr double radio = 8, radioElegido = 4;  // px
 
 // White on every desktop, as the sheet is: so are the inks.
@@ -24,7 +24,7 @@ constexpr std::array nombres{"Punto1", "Punto2", "Lado1", "Lado2"};
 
 /// From units of the sketch to pixels of the widget.
 QPointF enPixeles(double x, double y) {
-    return QPointF(x - AberturaProp::centroX, y - AberturaProp::centroY) / unidadesPorPunto +
+    return QPointF(x - AberturaProp::centroX, y - AberturaProp::centroY) / unidadesDelCroquis +
            QPointF(lado, lado) / 2.0;
 }
 
@@ -75,7 +75,7 @@ QRadioButton* CroquisAbertura::ponerBoton(std::size_t indice, const char* rotulo
     redondo->setToolTip(QString::fromUtf8(rotulo));
     const Recuadro sitio = logica_.sitio(boton);
     const QPointF esquina = enPixeles(sitio.Left, sitio.Top);
-    const int tamano = static_cast<int>(std::lround(sitio.Width / unidadesPorPunto));
+    const int tamano = static_cast<int>(std::lround(sitio.Width / unidadesDelCroquis));
     redondo->setGeometry(QRect(esquina.toPoint(), QSize(tamano, tamano)));
     grupo->addButton(redondo);
     connect(redondo, &QRadioButton::toggled, this, [this, boton](bool puesto) {
@@ -99,7 +99,7 @@ void CroquisAbertura::paintEvent(QPaintEvent*) {
     pintor.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     const double densidad = devicePixelRatioF();
     pintor.scale(1 / densidad, 1 / densidad);
-    const double escala = densidad / unidadesPorPunto;
+    const double escala = densidad / unidadesDelCroquis;
     const QPointF centro = QPointF(lado, lado) / 2.0 * densidad;
     SuperficieQt superficie(pintor, escala,
                             centro - QPointF(AberturaProp::centroX, AberturaProp::centroY) * escala);

@@ -104,7 +104,9 @@ TEST(Primitivas, TrazarElipseSonCuatroArcosConSusPropiosAngulos) {
 TEST(Primitivas, UnSegmentoDiscontinuoConservaSuPasoYAcabaEnSuExtremo) {
     const Segmento segmento{0, 0, 70, -35, true};
     const auto trazar = [&](double escala) {
-        return grabar([&](SuperficieSalida& hoja) { TrazarSegmento(hoja, segmento, negro, escala, true); });
+        return grabar([&](SuperficieSalida& hoja) {
+            TrazarSegmento(hoja, segmento, negro, escala, TipoDeTrazo::rayas);
+        });
     };
     EXPECT_EQ(trazar(1), (Trazos{"Line 0 0 10 -5 000000", "Line 20 -10 30 -15 000000",
                                  "Line 40 -20 50 -25 000000", "Line 60 -30 70 -35 000000"}));
@@ -115,7 +117,7 @@ TEST(Primitivas, UnSegmentoDiscontinuoConservaSuPasoYAcabaEnSuExtremo) {
 TEST(Primitivas, ElPasoDeUnSegmentoDiscontinuoSeRedondeaAlPar) {
     const Segmento segmento{0, 0, 17.5F, 24.5F, true};  // sevenths: 2.5 and 3.5
     const Trazos trazos =
-        grabar([&](SuperficieSalida& hoja) { TrazarSegmento(hoja, segmento, negro, 1, true); });
+        grabar([&](SuperficieSalida& hoja) { TrazarSegmento(hoja, segmento, negro, 1, TipoDeTrazo::rayas); });
     EXPECT_EQ(trazos.at(0), "Line 0 0 2 4 000000");
     EXPECT_EQ(trazos.at(3), "Line 12 24 17.5 24.5 000000");
 }
@@ -129,7 +131,7 @@ TEST(Primitivas, LoQueNoEsFinitoNoLlegaALaSuperficie) {
                   hoja.Circle({0, 0, -1}, negro);
                   hoja.Circle({0, 0, 1, Arco{0, infinito}}, negro);
                   TrazarSegmento(hoja, {3e38F, 0, 1, 1, true}, negro, 2);
-                  TrazarSegmento(hoja, {3e38F, 0, -3e38F, 1, true}, negro, 2, true);
+                  TrazarSegmento(hoja, {3e38F, 0, -3e38F, 1, true}, negro, 2, TipoDeTrazo::rayas);
               }),
               Trazos{});
 }

@@ -9,7 +9,7 @@ namespace {
 
 std::vector<std::string> rayas(const Segmento& segmento, double escala) {
     Grabadora grabadora;
-    TrazarSegmento(grabadora, segmento, rojo, escala, Trazo::rayas);
+    TrazarSegmento(grabadora, segmento, rojo, escala, TipoDeTrazo::rayas);
     return grabadora.trazos();
 }
 
