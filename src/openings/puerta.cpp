@@ -106,7 +106,7 @@ void TrazaLineasPuerta(Puerta& puerta, const Pared& pared, double factor) {
 }
 
 void ColocaPuerta(Dibujo& dibujo, int indice, bool seleccionada) {
-    Puerta* puerta = abertura<Puerta>(dibujo, indice);
+    auto* puerta = abertura<Puerta>(dibujo, indice);
     if (!puerta) return;
     ensuciar(dibujo, *puerta);
     if (const Pared* pared = paredTrazada(dibujo, *puerta)) {

@@ -90,7 +90,7 @@ void PuertaProp::escribir(Puerta& puerta, const std::string& lado) const {
 }
 
 void PuertaProp::Aplicar() {
-    Puerta* puerta = abertura<Puerta>(dibujo_, indice_);
+    auto* puerta = abertura<Puerta>(dibujo_, indice_);
     if (!puerta) return;
     escribir(*puerta, ladoEfectivo(lado_, puerta->Angulo));
     ColocaPuerta(dibujo_, indice_, true);

@@ -60,7 +60,7 @@ void TrazaLineasVentana(Ventana& ventana, const Pared& pared, double factor) {
 }
 
 void ColocaVentana(Dibujo& dibujo, int indice, bool seleccionada) {
-    Ventana* ventana = abertura<Ventana>(dibujo, indice);
+    auto* ventana = abertura<Ventana>(dibujo, indice);
     if (!ventana) return;
     ensuciar(dibujo, *ventana);
     if (const Pared* pared = paredTrazada(dibujo, *ventana)) {

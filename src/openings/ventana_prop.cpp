@@ -58,7 +58,7 @@ void VentanaProp::escribir(Ventana& ventana) const {
 }
 
 void VentanaProp::Aplicar() {
-    Ventana* ventana = abertura<Ventana>(dibujo_, indice_);
+    auto* ventana = abertura<Ventana>(dibujo_, indice_);
     if (!ventana) return;
     escribir(*ventana);
     ColocaVentana(dibujo_, indice_, true);

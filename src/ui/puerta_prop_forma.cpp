@@ -19,8 +19,9 @@ constexpr std::array rotulos{"Arriba", "Abajo", "Bisagra izquierda", "Bisagra de
 }  // namespace
 
 PuertaPropForma::PuertaPropForma(PuertaProp& logica, QWidget* padre)
-    : AberturaPropForma("PuertaProp", "Propiedades de Puerta", logica, padre), logica_(logica) {
-    fmeLado_ = extremos();
+    : AberturaPropForma("PuertaProp", "Propiedades de Puerta", logica, padre),
+      logica_(logica),
+      fmeLado_(extremos()) {
     cuerpo()->addLayout(longitud("&Longitud Hoja:"));
     cuerpo()->addWidget(hojas());
     cuerpo()->addLayout(alineacion("Cen&trada en Pared"));

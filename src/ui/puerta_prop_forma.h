@@ -23,7 +23,7 @@ class PuertaPropForma : public AberturaPropForma {
     QGroupBox* extremos();
 
     PuertaProp& logica_;
-    QGroupBox* fmeLado_ = nullptr;
+    QGroupBox* fmeLado_;
 };
 
 }  // namespace bosquel
