@@ -7,7 +7,7 @@ namespace bosquel {
 
 const Pared* paredTrazada(const Dibujo& dibujo, const Abertura& abertura) {
     const Pared* pared = abertura.NumeroPared > 0 ? dibujo.Pared.en(abertura.NumeroPared) : nullptr;
-    return pared && pared->lineas[0].Visible ? pared : nullptr;
+    return pared != nullptr && pared->lineas[0].Visible ? pared : nullptr;
 }
 
 bool enMovimiento(const Dibujo& dibujo, const Abertura& abertura) {
