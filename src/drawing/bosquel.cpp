@@ -126,6 +126,11 @@ void Bosquel::cerrar() {
     sesion_.plataforma.terminar();
 }
 
+void Bosquel::pasarTimer2() {
+    const Turno turno(sesion_);
+    sesion_.plataforma.activar(Reloj::Timer2, false);
+}
+
 void Bosquel::minutoDeAutoSave() {
     const Turno turno(sesion_);
     tmrAutoSave(sesion_);

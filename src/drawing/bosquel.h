@@ -44,6 +44,8 @@ class Bosquel {
     void suprimir();
 
     void minutoDeAutoSave();
+    /// The event that armed `Timer2` has ended.
+    void pasarTimer2();
 
     /// The close box: the program ends, with no question.
     void cerrar();

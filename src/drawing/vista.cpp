@@ -58,6 +58,14 @@ void MedirHoja(Sesion& sesion) {
     ActualizarBarras(sesion);
 }
 
+Esquina esquinaALaVista(const Sesion& sesion) {
+    const HojaDibujo& hoja = sesion.dibujo.Hoja;
+    Esquina esquina;
+    asignar(esquina.Left, (hoja.Width - sesion.visorAncho) * sesion.HScroll1.valor / 100);
+    asignar(esquina.Top, (hoja.Height - sesion.visorAlto) * sesion.VScroll1.valor / 100);
+    return esquina;
+}
+
 void DibujarCuadricula(Sesion& sesion) {
     BorrarCuadricula(sesion);
     cederEventos(sesion);

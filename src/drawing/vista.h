@@ -23,6 +23,13 @@ inline constexpr double margenAncho = 1860, margenAlto = 1600;
 /// The sheet takes the size that the drawing's area has at the present zoom.
 void MedirHoja(Sesion& sesion);
 
+/// Where the top left corner of the part of the sheet on view lies by the scroll bars, in sheet units of the
+/// sheet: what is created appears there.
+struct Esquina {
+    float Left = 0, Top = 0;
+};
+Esquina esquinaALaVista(const Sesion& sesion);
+
 /// Draws the grid into the sheet's own picture, or clears it.
 void DibujarCuadricula(Sesion& sesion);
 void BorrarCuadricula(Sesion& sesion);

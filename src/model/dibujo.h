@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace bosquel {
 
@@ -21,6 +22,14 @@ struct Arrastre {
     std::int32_t ArrastreDX = 0, ArrastreDY = 0;  ///< the last step
     bool ArrastreAlterna = false;                 ///< the next sample is measured from anchor B
     bool ArrastrePrimero = false;                 ///< the next sample opens a new pair of anchors
+};
+
+/// An element, named by its kind and its index.
+struct Referencia {
+    Clase clase = Clase::MblMesa;
+    std::int16_t indice = 0;
+
+    bool operator==(const Referencia&) const = default;
 };
 
 /// Where the sheet lies in the viewport and how large it is, in sheet units. `Left` and `Top` are 0 or less
@@ -85,8 +94,16 @@ struct Dibujo {
     HojaDibujo Hoja;
     ZonaSucia sucia;                               ///< where something at rest has changed
     ZonaSucia paso;                                ///< where something that is being dragged was and is now
+    std::vector<Referencia> cambiados;             ///< elements that have changed, see `anunciar`
     std::int32_t ordenFrente = 0, ordenFondo = 0;  ///< the ends of the z-order, see `alFrente`
 };
+
+/// Furniture, a text, a stair or a symbol has changed in any way, has come or is gone: where it was and where
+/// it is now is painted again when the event ends.
+void anunciar(Dibujo& dibujo, Clase clase, int indice);
+
+/// Anything on the sheet may have changed.
+void anunciarTodo(Dibujo& dibujo);
 
 /// The z-order: whatever is brought to the front lies over all the rest, what is sent to the back under it.
 void alFrente(Dibujo& dibujo, Pinza& pinza);

@@ -11,7 +11,13 @@
 
 namespace bosquel {
 
+class Colores;
+class ElectricoProp;
 class Entrada;
+class EscaleraProp;
+class ImageCrop;
+class MesaProp;
+class MuebleProp;
 class Opciones;
 class Paralelas;
 class ParedProp;
@@ -39,7 +45,20 @@ struct PeticionArchivo {
     std::filesystem::path carpeta;
 };
 
-enum class Reloj : std::uint8_t { tmrAutoSave };
+/// A box that asks for a line of text.
+struct PeticionTexto {
+    std::string titulo;
+    std::string texto;
+};
+
+/// The timers of the main window: the minute of auto-save, and a moment of 1 ms after which the event under
+/// way is sure to have ended, which goes off once.
+enum class Reloj : std::uint8_t { tmrAutoSave, Timer2 };
+
+/// The size of a text as it is shown, sheet units.
+struct Medida {
+    double ancho = 0, alto = 0;
+};
 
 /// The one way out of the core: everything that it asks of the world of windows. Dialogs are given as the
 /// core's own half of them and come back when they are closed.
@@ -51,7 +70,13 @@ class Plataforma {
     virtual ~Plataforma() = default;
 
     virtual Respuesta mensaje(const Mensaje& mensaje) = 0;
+    virtual void mostrar(Colores& dialogo) = 0;
+    virtual void mostrar(ElectricoProp& dialogo) = 0;
     virtual void mostrar(Entrada& dialogo) = 0;
+    virtual void mostrar(EscaleraProp& dialogo) = 0;
+    virtual void mostrar(ImageCrop& dialogo) = 0;
+    virtual void mostrar(MesaProp& dialogo) = 0;
+    virtual void mostrar(MuebleProp& dialogo) = 0;
     virtual void mostrar(Opciones& dialogo) = 0;
     virtual void mostrar(ParedProp& dialogo) = 0;
     virtual void mostrar(PuertaProp& dialogo) = 0;
@@ -60,6 +85,12 @@ class Plataforma {
 
     /// The chosen path, as it was typed; nothing if the user cancels.
     virtual std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) = 0;
+
+    /// What the user has written; empty if there is nothing, or the user cancels.
+    virtual std::string pedirTexto(const PeticionTexto& peticion) = 0;
+
+    /// How much room a line of text takes on the sheet at a font size in points.
+    virtual Medida medirTexto(const std::string& texto, double FontSize) = 0;
 
     /// Gives other events a turn. A wait loop calls it again and again: it must neither block for long nor
     /// return at once with nothing done.

@@ -6,7 +6,9 @@
 #include "ui/paralelas_forma.h"
 #include "ui/pared_prop_forma.h"
 #include "ui/puerta_prop_forma.h"
+#include "ui/superficie_qt.h"
 #include "ui/textos.h"
+#include "ui/unidades.h"
 #include "ui/ventana_bosquel.h"
 #include "ui/ventana_prop_forma.h"
 
@@ -14,6 +16,8 @@
 #include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QFileDialog>
+#include <QFontMetricsF>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -47,6 +51,12 @@ std::vector<BotonDeMensaje> botonesDe(Botones botones) {
     return {};
 }
 
+/// A timer that runs goes on with the time that it has left.
+void activarReloj(QTimer& reloj, bool activo) {
+    if (activo && !reloj.isActive()) reloj.start();
+    if (!activo) reloj.stop();
+}
+
 }  // namespace
 
 Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
@@ -67,9 +77,15 @@ Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
     return botones.back().respuesta;
 }
 
+void PlataformaQt::mostrar(Colores&) {}
+void PlataformaQt::mostrar(ElectricoProp&) {}
 void PlataformaQt::mostrar(Entrada& dialogo) {
     EntradaForma(dialogo).exec();
 }
+void PlataformaQt::mostrar(EscaleraProp&) {}
+void PlataformaQt::mostrar(ImageCrop&) {}
+void PlataformaQt::mostrar(MesaProp&) {}
+void PlataformaQt::mostrar(MuebleProp&) {}
 void PlataformaQt::mostrar(Opciones& dialogo) {
     OpcionesForma(dialogo, ventana_).exec();
 }
@@ -97,6 +113,21 @@ std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionA
     return std::filesystem::path(dialogo.selectedFiles().constFirst().toStdString());
 }
 
+std::string PlataformaQt::pedirTexto(const PeticionTexto& peticion) {
+    QInputDialog caja(ventana_);
+    caja.setWindowTitle(aQString(peticion.titulo));
+    caja.setLabelText(aQString(peticion.texto));
+    caja.setOkButtonText("&Aceptar");
+    caja.setCancelButtonText("&Cancelar");
+    return caja.exec() == QDialog::Accepted ? caja.textValue().toStdString() : std::string();
+}
+
+Medida PlataformaQt::medirTexto(const std::string& texto, double FontSize) {
+    const QFontMetricsF metrica(fuenteTexto(FontSize, 1 / unidadesPorPixel));
+    return {metrica.horizontalAdvance(aQString(texto)) * unidadesPorPixel,
+            metrica.height() * unidadesPorPixel};
+}
+
 void PlataformaQt::cederEventos() {
     QEventLoop espera;
     QTimer::singleShot(turno, &espera, &QEventLoop::quit);
@@ -106,11 +137,8 @@ void PlataformaQt::cederEventos() {
 void PlataformaQt::activar(Reloj reloj, bool activo) {
     if (!ventana_) return;
     switch (reloj) {
-        case Reloj::tmrAutoSave: {
-            QTimer& timer = ventana_->tmrAutoSave();
-            if (activo && !timer.isActive()) timer.start();
-            if (!activo) timer.stop();
-        }
+        case Reloj::tmrAutoSave: return activarReloj(ventana_->tmrAutoSave(), activo);
+        case Reloj::Timer2: return activarReloj(ventana_->timer2(), activo);
     }
 }
 

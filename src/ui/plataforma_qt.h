@@ -13,13 +13,21 @@ class PlataformaQt final : public Plataforma {
     void ponerVentana(VentanaBosquel* ventana) { ventana_ = ventana; }
 
     Respuesta mensaje(const Mensaje& mensaje) override;
+    void mostrar(Colores& dialogo) override;
+    void mostrar(ElectricoProp& dialogo) override;
     void mostrar(Entrada& dialogo) override;
+    void mostrar(EscaleraProp& dialogo) override;
+    void mostrar(ImageCrop& dialogo) override;
+    void mostrar(MesaProp& dialogo) override;
+    void mostrar(MuebleProp& dialogo) override;
     void mostrar(Opciones& dialogo) override;
     void mostrar(Paralelas& dialogo) override;
     void mostrar(ParedProp& dialogo) override;
     void mostrar(PuertaProp& dialogo) override;
     void mostrar(VentanaProp& dialogo) override;
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) override;
+    std::string pedirTexto(const PeticionTexto& peticion) override;
+    Medida medirTexto(const std::string& texto, double FontSize) override;
     void cederEventos() override;
     void activar(Reloj reloj, bool activo) override;
     void ponerCursor(Cursor cursor) override;

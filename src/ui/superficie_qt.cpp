@@ -41,6 +41,15 @@ QColor colorQt(Color color) {
                            static_cast<int>((plano >> 16U) & 0xFFU));
 }
 
+QFont fuenteTexto(double puntos, double escala) {
+    QFont letra(QStringLiteral("sans-serif"));
+    letra.setStyleHint(QFont::SansSerif);
+    constexpr double sinDesbordar = 1e5;
+    letra.setPixelSize(
+        static_cast<int>(std::lround(std::clamp(puntos * unidadesPorPunto * escala, 1.0, sinDesbordar))));
+    return letra;
+}
+
 std::optional<QLine> recortar(QPointF desde, QPointF hasta) {
     if (cerca(desde) && cerca(hasta)) return QLine(enteros(desde), enteros(hasta));
     const QPointF paso = hasta - desde;
@@ -110,9 +119,7 @@ void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
 }
 
 void SuperficieQt::Print(std::string_view texto) {
-    QFont letra(QStringLiteral("sans-serif"));
-    letra.setStyleHint(QFont::SansSerif);
-    letra.setPixelSize(std::max(1, static_cast<int>(std::lround(puntos_ * unidadesPorPunto * escala_))));
+    const QFont letra = fuenteTexto(puntos_, escala_);
     const QPointF esquina = enPixeles(texto_.x(), texto_.y());
     if (!cerca(esquina)) return;
     pintor_.setFont(letra);

@@ -2,6 +2,7 @@
 
 #include "surface/superficie_salida.h"
 
+#include <QFont>
 #include <QLine>
 #include <QPainter>
 #include <optional>
@@ -44,6 +45,9 @@ class SuperficieQt final : public SuperficieSalida {
     QPointF texto_;  ///< where the next one stands, in surface units
     double puntos_ = 8;
 };
+
+/// The type of free texts, `escala` pixels to a sheet unit.
+QFont fuenteTexto(double puntos, double escala);
 
 /// The colour as the toolkit has it.
 QColor colorQt(Color color);

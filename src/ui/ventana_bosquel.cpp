@@ -112,6 +112,11 @@ void VentanaBosquel::ponerRelojes() {
     tmrAutoSave_->setObjectName("tmrAutoSave");
     tmrAutoSave_->setInterval(60000);
     connect(tmrAutoSave_, &QTimer::timeout, this, [this] { bosquel_.minutoDeAutoSave(); });
+    timer2_ = new QTimer(this);
+    timer2_->setObjectName("Timer2");
+    timer2_->setInterval(1);
+    timer2_->setSingleShot(true);
+    connect(timer2_, &QTimer::timeout, this, [this] { bosquel_.pasarTimer2(); });
 }
 
 void VentanaBosquel::ponerFranja() {

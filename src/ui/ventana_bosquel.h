@@ -27,6 +27,7 @@ class VentanaBosquel final : public QWidget {
 
     HojaWidget& hoja() { return *hoja_; }
     QTimer& tmrAutoSave() { return *tmrAutoSave_; }
+    QTimer& timer2() { return *timer2_; }
 
   protected:
     void resizeEvent(QResizeEvent* evento) override;
@@ -54,6 +55,7 @@ class VentanaBosquel final : public QWidget {
     QLabel* estado_ = nullptr;
     QLabel* escala_ = nullptr;
     QTimer* tmrAutoSave_ = nullptr;
+    QTimer* timer2_ = nullptr;
 };
 
 }  // namespace bosquel

@@ -43,6 +43,36 @@ Respuesta PlataformaFalsa::mensaje(const Mensaje& mensaje) {
     return alCerrar(mensaje.botones);
 }
 
+void PlataformaFalsa::mostrar(Colores& dialogo) {
+    ++dialogosDeColores;
+    if (alAbrirColores) alAbrirColores(dialogo);
+}
+
+void PlataformaFalsa::mostrar(ElectricoProp& dialogo) {
+    ++dialogosDeElectrico;
+    if (alAbrirElectrico) alAbrirElectrico(dialogo);
+}
+
+void PlataformaFalsa::mostrar(EscaleraProp& dialogo) {
+    ++dialogosDeEscalera;
+    if (alAbrirEscalera) alAbrirEscalera(dialogo);
+}
+
+void PlataformaFalsa::mostrar(ImageCrop& dialogo) {
+    ++dialogosDeImageCrop;
+    if (alAbrirImageCrop) alAbrirImageCrop(dialogo);
+}
+
+void PlataformaFalsa::mostrar(MesaProp& dialogo) {
+    ++dialogosDeMesa;
+    if (alAbrirMesa) alAbrirMesa(dialogo);
+}
+
+void PlataformaFalsa::mostrar(MuebleProp& dialogo) {
+    ++dialogosDeMueble;
+    if (alAbrirMueble) alAbrirMueble(dialogo);
+}
+
 void PlataformaFalsa::mostrar(Entrada& dialogo) {
     ++entradas;
     if (alAbrirEntrada) alAbrirEntrada(dialogo);
@@ -83,13 +113,18 @@ std::optional<std::filesystem::path> PlataformaFalsa::elegirArchivo(const Petici
     return ruta.empty() ? std::nullopt : std::optional(std::move(ruta));
 }
 
+std::string PlataformaFalsa::pedirTexto(const PeticionTexto& peticion) {
+    preguntasDeTexto.push_back(peticion);
+    return textos.empty() ? std::string() : sacar(textos);
+}
+
 void PlataformaFalsa::cederEventos() {
     if (++turnos > turnosDeSobra) throw std::runtime_error("a wait loop that nothing ends");
     if (alCederEventos) alCederEventos();
 }
 
-void PlataformaFalsa::activar(Reloj, bool activo) {
-    autoSave.push_back(activo);
+void PlataformaFalsa::activar(Reloj reloj, bool activo) {
+    (reloj == Reloj::Timer2 ? timer2 : autoSave).push_back(activo);
 }
 
 void PlataformaFalsa::repintar(const ZonaSucia& zona, const ZonaSucia& paso) {

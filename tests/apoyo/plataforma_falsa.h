@@ -16,6 +16,14 @@ class PlataformaFalsa : public Plataforma {
     std::deque<Respuesta> respuestas;
     std::function<Respuesta(const Mensaje&)> alPreguntar;  ///< answers in the place of `respuestas`
     std::deque<std::filesystem::path> archivos;            ///< an empty path, or none left, is a cancel
+    std::deque<std::string>
+        textos;  ///< for the boxes that ask for one; an empty one, or none left, is a cancel
+    std::function<void(Colores&)> alAbrirColores;
+    std::function<void(ElectricoProp&)> alAbrirElectrico;
+    std::function<void(EscaleraProp&)> alAbrirEscalera;
+    std::function<void(ImageCrop&)> alAbrirImageCrop;
+    std::function<void(MesaProp&)> alAbrirMesa;
+    std::function<void(MuebleProp&)> alAbrirMueble;
     std::function<void(Entrada&)> alAbrirEntrada;
     std::function<void(Opciones&)> alAbrirOpciones;
     std::function<void(ParedProp&)> alAbrirPared;
@@ -27,13 +35,17 @@ class PlataformaFalsa : public Plataforma {
     // What has been asked.
     std::vector<Mensaje> mensajes;
     std::vector<PeticionArchivo> peticiones;
+    std::vector<PeticionTexto> preguntasDeTexto;
     std::vector<Cursor> cursores;
     std::vector<std::string> titulos;
     std::vector<bool> relojesDeArena;
     std::vector<bool> autoSave;  ///< what the timer was told, on or off
+    std::vector<bool> timer2;
     std::vector<ZonaSucia> repintados, pasos;
     int turnos = 0;  ///< of waiting, since somebody last set it back
     int dialogosDePuerta = 0, dialogosDeVentana = 0;
+    int dialogosDeColores = 0, dialogosDeElectrico = 0, dialogosDeEscalera = 0, dialogosDeImageCrop = 0;
+    int dialogosDeMesa = 0, dialogosDeMueble = 0;
     int entradas = 0, dialogosDePared = 0, dialogosDeOpciones = 0, dialogosDeParalelas = 0;
     int vistas = 0;
     bool terminado = false;
@@ -44,13 +56,24 @@ class PlataformaFalsa : public Plataforma {
     bool autoSaveActivo() const { return !autoSave.empty() && autoSave.back(); }
 
     Respuesta mensaje(const Mensaje& mensaje) override;
+    void mostrar(Colores& dialogo) override;
+    void mostrar(ElectricoProp& dialogo) override;
     void mostrar(Entrada& dialogo) override;
+    void mostrar(EscaleraProp& dialogo) override;
+    void mostrar(ImageCrop& dialogo) override;
+    void mostrar(MesaProp& dialogo) override;
+    void mostrar(MuebleProp& dialogo) override;
     void mostrar(Opciones& dialogo) override;
     void mostrar(ParedProp& dialogo) override;
     void mostrar(PuertaProp& dialogo) override;
     void mostrar(VentanaProp& dialogo) override;
     void mostrar(Paralelas& dialogo) override;
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) override;
+    std::string pedirTexto(const PeticionTexto& peticion) override;
+    /// 100 units a letter, 10 times as high as the font's points.
+    Medida medirTexto(const std::string& texto, double FontSize) override {
+        return {100.0 * static_cast<double>(texto.size()), 10 * FontSize};
+    }
     void cederEventos() override;
     void activar(Reloj reloj, bool activo) override;
     void ponerCursor(Cursor cursor) override { cursores.push_back(cursor); }

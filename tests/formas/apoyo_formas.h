@@ -15,7 +15,13 @@ namespace bosquel::apoyo {
 class PlataformaMuda : public Plataforma {
   public:
     Respuesta mensaje(const Mensaje&) override { return Respuesta::cancelar; }
+    void mostrar(Colores&) override {}
+    void mostrar(ElectricoProp&) override {}
     void mostrar(Entrada&) override {}
+    void mostrar(EscaleraProp&) override {}
+    void mostrar(ImageCrop&) override {}
+    void mostrar(MesaProp&) override {}
+    void mostrar(MuebleProp&) override {}
     void mostrar(Opciones&) override {}
     void mostrar(Paralelas&) override {}
     void mostrar(ParedProp&) override {}
@@ -24,6 +30,8 @@ class PlataformaMuda : public Plataforma {
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo&) override {
         return std::nullopt;
     }
+    std::string pedirTexto(const PeticionTexto&) override { return {}; }
+    Medida medirTexto(const std::string&, double) override { return {}; }
     void cederEventos() override {}
     void activar(Reloj, bool) override { ++activaciones; }
     void ponerCursor(Cursor) override {}
