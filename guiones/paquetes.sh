@@ -28,6 +28,14 @@ paquetesPruebas=(
     imagemagick # import, compare
 )
 
+# shellcheck disable=SC2034
+paquetesPaquete=(
+    file # dpkg-shlibdeps by way of cpack
+    desktop-file-utils
+    appstream
+    lintian
+)
+
 paso() { printf '==> %s\n' "$*"; }
 
 fallo() {
