@@ -47,7 +47,7 @@ std::string constanteDe(ListaColor lista) {
 
 std::vector<std::string_view> partirColores(std::string_view lista) {
     std::vector<std::string_view> partes;
-    for (auto fin = lista.find(separador); fin != lista.npos; fin = lista.find(separador)) {
+    for (auto fin = lista.find(separador); fin != std::string_view::npos; fin = lista.find(separador)) {
         partes.push_back(lista.substr(0, fin));
         lista.remove_prefix(fin + 1);
     }

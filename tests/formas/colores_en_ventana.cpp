@@ -39,8 +39,10 @@ TEST_F(ColoresEnVentana, ElBotonAbreElDialogoEnElBordeDerecho) {
         abierto = true;
         EXPECT_EQ(dialogo.objectName(), "Colores");
         EXPECT_TRUE(dialogo.isModal());
-        EXPECT_EQ(dialogo.frameGeometry().right(),
-                  std::min(ventana.frameGeometry().right(), ventana.screen()->availableGeometry().right()));
+        const QRect pantalla = ventana.screen()->availableGeometry();
+        const QRect marco = dialogo.frameGeometry();
+        const int borde = std::min(ventana.frameGeometry().right(), pantalla.right());
+        EXPECT_TRUE(marco.right() == borde || marco.width() > pantalla.width()) << marco.right();
         dialogo.reject();
     });
     pulsar("BttPrincipal_10");

@@ -16,7 +16,7 @@ constexpr const char* dosPerfiles =
 
 /// In the bytes of the file.
 std::string enDisco(std::string texto) {
-    for (auto i = texto.find("í"); i != texto.npos; i = texto.find("í"))
+    for (auto i = texto.find("í"); i != std::string::npos; i = texto.find("í"))
         texto.replace(i, 2, "\xED");
     return texto;
 }
