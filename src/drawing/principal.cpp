@@ -1,5 +1,6 @@
 #include "drawing/principal.h"
 
+#include "appearance/colores.h"
 #include "drawing/archivo.h"
 #include "drawing/foco.h"
 #include "drawing/hoja.h"
@@ -38,6 +39,12 @@ void opciones(Sesion& sesion) {
     sesion.Ocupado = false;
 }
 
+void colores(Sesion& sesion) {
+    Colores dialogo(sesion.dibujo, sesion.plataforma, sesion.carpeta);
+    mostrar(sesion, dialogo);
+    sesion.vistaSucia = true;  // the pictures of the palettes are the models', whose colours may be new
+}
+
 /// Leaves the gate shut when the user stays: the next command opens it.
 void salir(Sesion& sesion) {
     if (confirmar(sesion, "Salir del programa",
@@ -56,9 +63,9 @@ void ejecutar(Sesion& sesion, Principal boton) {
         case Principal::Opciones: return opciones(sesion);
         case Principal::Eliminar: return EliminarElemento(sesion, false);
         case Principal::Salir: return salir(sesion);
+        case Principal::Colores: return colores(sesion);
         case Principal::Ayuda:
-        case Principal::Imprimir:
-        case Principal::Colores: return;
+        case Principal::Imprimir: return;
     }
 }
 

@@ -38,7 +38,7 @@ inline constexpr std::array<BotonPrincipal, 11> BttPrincipal{{{"Nuevo", true},
                                                               {"Eliminar", true},
                                                               {"Imprimir", false},
                                                               {"Salir", true},
-                                                              {"Colores", false}}};
+                                                              {"Colores", true}}};
 
 /// A click: ends the tool in hand, and with it a wall that still waits, and runs the command inside the gate.
 void pulsarPrincipal(Sesion& sesion, Principal boton);

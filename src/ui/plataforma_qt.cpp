@@ -1,5 +1,6 @@
 #include "ui/plataforma_qt.h"
 
+#include "ui/colores_forma.h"
 #include "ui/entrada_forma.h"
 #include "ui/hoja_widget.h"
 #include "ui/opciones_forma.h"
@@ -51,6 +52,12 @@ std::vector<BotonDeMensaje> botonesDe(Botones botones) {
     return {};
 }
 
+/// A box belongs to the dialog that asks for it; to the main window if none does.
+QWidget* duenoDeCaja(QWidget* ventana) {
+    QWidget* dialogo = QApplication::activeModalWidget();
+    return dialogo ? dialogo : ventana;
+}
+
 /// A timer that runs goes on with the time that it has left.
 void activarReloj(QTimer& reloj, bool activo) {
     if (activo && !reloj.isActive()) reloj.start();
@@ -60,7 +67,7 @@ void activarReloj(QTimer& reloj, bool activo) {
 }  // namespace
 
 Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
-    QMessageBox caja(ventana_);
+    QMessageBox caja(duenoDeCaja(ventana_));
     caja.setWindowTitle(aQString(mensaje.titulo));
     caja.setTextFormat(Qt::PlainText);
     // Yes, no and cancel from left to right, whatever the desktop's order.
@@ -77,7 +84,9 @@ Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
     return botones.back().respuesta;
 }
 
-void PlataformaQt::mostrar(Colores&) {}
+void PlataformaQt::mostrar(Colores& dialogo) {
+    ColoresForma(dialogo, ventana_).exec();
+}
 void PlataformaQt::mostrar(ElectricoProp&) {}
 void PlataformaQt::mostrar(Entrada& dialogo) {
     EntradaForma(dialogo).exec();
@@ -114,7 +123,7 @@ std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionA
 }
 
 std::string PlataformaQt::pedirTexto(const PeticionTexto& peticion) {
-    QInputDialog caja(ventana_);
+    QInputDialog caja(duenoDeCaja(ventana_));
     caja.setWindowTitle(aQString(peticion.titulo));
     caja.setLabelText(aQString(peticion.texto));
     caja.setOkButtonText("&Aceptar");

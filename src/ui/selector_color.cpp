@@ -60,8 +60,9 @@ void SelectorColor::elegir() {
     dialogo.setCurrentColor(Qt::black);
     for (int i = 0; i < QColorDialog::customCount(); ++i)
         QColorDialog::setCustomColor(i, Qt::black);
-    if (dialogo.exec() == QDialog::Accepted) ponerColor(colorDe(dialogo.currentColor()));
-    emit elegido();
+    const bool conColor = dialogo.exec() == QDialog::Accepted;
+    if (conColor) ponerColor(colorDe(dialogo.currentColor()));
+    emit elegido(conColor);
 }
 
 }  // namespace bosquel

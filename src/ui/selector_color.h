@@ -23,7 +23,7 @@ class SelectorColor final : public QWidget {
 
   signals:
     /// The colour dialog was closed: with a colour, which the swatch shows already, or without.
-    void elegido();
+    void elegido(bool conColor);
 
   private:
     void elegir();

@@ -111,7 +111,7 @@ inline void esperarAccesible(QWidget& forma) {
         letras.insert(letra);
     };
     for (const QWidget* hijo : forma.findChildren<QWidget*>()) {
-        if (hijo->isHidden()) continue;
+        if (!hijo->isVisibleTo(&forma)) continue;
         const auto* boton = qobject_cast<const QAbstractButton*>(hijo);
         const auto* etiqueta = qobject_cast<const QLabel*>(hijo);
         if (boton) apuntar(boton->text());
