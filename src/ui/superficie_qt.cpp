@@ -41,6 +41,10 @@ QColor colorQt(Color color) {
                            static_cast<int>((plano >> 16U) & 0xFFU));
 }
 
+Color colorDe(const QColor& color) {
+    return color.red() | color.green() << 8 | color.blue() << 16;
+}
+
 QFont fuenteTexto(double puntos, double escala) {
     QFont letra(QStringLiteral("sans-serif"));
     letra.setStyleHint(QFont::SansSerif);
