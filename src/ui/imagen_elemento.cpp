@@ -106,7 +106,7 @@ QIcon imagenElemento(const Calco& calco, const QPalette& paleta, const QSizeF& m
 }
 
 QSizeF marcoDe(const std::vector<Calco>& calcos) {
-    QSizeF marco;
+    QSizeF marco(0, 0);
     for (const Calco& calco : calcos)
         if (const auto extension = calco.extension()) marco = marco.expandedTo(tamano(*extension));
     return marco;

@@ -114,7 +114,7 @@ void MesaForma::mostrarGrupo() {
 
 void MesaForma::mostrarDist() {
     std::vector<std::vector<Calco>> calcos;
-    QSizeF marco;
+    QSizeF marco(0, 0);
     for (int cual = 0; cual < MesaProp::grupos; ++cual) {
         auto& deGrupo = calcos.emplace_back();
         for (int i = 0; i < static_cast<int>(MesaProp::Dist(cual).size()); ++i)
