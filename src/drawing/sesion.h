@@ -91,9 +91,11 @@ void cederEventos(Sesion& sesion);
 /// Shows a message and gives the answer; what has changed shows first.
 Respuesta preguntar(Sesion& sesion, const Mensaje& mensaje);
 
-/// Shows a dialog until it is closed; what has changed shows first.
+/// Shows a dialog until it is closed; what has changed shows first. One that writes into the drawing while it
+/// is open has an `alEscribir`, which it calls after each write: so the sheet shows it at once.
 template <class Dialogo>
 void mostrar(Sesion& sesion, Dialogo& dialogo) {
+    if constexpr (requires { dialogo.alEscribir; }) dialogo.alEscribir = [&sesion] { publicar(sesion); };
     publicar(sesion);
     sesion.plataforma.mostrar(dialogo);
 }

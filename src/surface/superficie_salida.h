@@ -15,6 +15,8 @@ enum class Relleno : std::uint8_t { solido = 0, transparente = 1 };
 /// is less than `inicio` the arc passes through 0; equal ends are the whole turn.
 struct Arco {
     double inicio = 0, fin = 0;
+
+    bool operator==(const Arco&) const = default;
 };
 
 /// A circle, an ellipse, or an arc of one. `aspecto` is height to width, and `radio` the larger half-axis.
@@ -26,6 +28,8 @@ struct Curva {
 
     double ejeX() const { return aspecto > 1 ? radio / aspecto : radio; }
     double ejeY() const { return aspecto < 1 ? radio * aspecto : radio; }
+
+    bool operator==(const Curva&) const = default;
 };
 
 /// An abstract surface to draw on: x to the right, y downwards, in units of its own. The sheet, the output,

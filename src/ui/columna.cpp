@@ -1,6 +1,8 @@
 #include "ui/columna.h"
 
+#include "drawing/muestras.h"
 #include "ui/boton.h"
+#include "ui/imagen_elemento.h"
 #include "ui/textos.h"
 
 #include <functional>
@@ -25,6 +27,7 @@ constexpr int separacion = 1;
 constexpr int altoRotulo = 20;
 constexpr int hueco = 8;   // between groups
 constexpr int letra = 11;  // pixels
+constexpr QSize tamanoMuestra{42, 25};
 constexpr int ancho = 2 * margen + 2 * anchoBoton + separacion;
 
 constexpr std::array imagenesRelacion{"paralela", "esquina", "union", "separar"};
@@ -111,8 +114,10 @@ void Columna::ponerPaletas(int y) {
         auto* panel = new QWidget(this);
         panel->setObjectName(paleta.panel);
         panel->setGeometry(0, y, ancho, altoDe(paleta.grupo.botones.size()));
-        poner(paleta.grupo, panel, 0);
         paneles_.push_back(panel);
+        auto& puestos = puestos_.emplace_back();
+        for (Boton* boton : poner(paleta.grupo, panel, 0))
+            puestos.push_back({boton, {}});
     }
 }
 
@@ -121,6 +126,20 @@ void Columna::mostrarPaleta() {
     letrero_->setText(aQString(sesion.Letrero));
     for (std::size_t i = 0; i < paneles_.size(); ++i)
         paneles_[i]->setVisible(i == static_cast<std::size_t>(sesion.paleta));
+    mostrarMuestras();
+}
+
+void Columna::mostrarMuestras() {
+    const Sesion& sesion = bosquel_.sesion();
+    if (static_cast<std::size_t>(sesion.paleta) >= puestos_.size()) return;
+    for (int i = 0; auto& [boton, muestra] : puestos_[static_cast<std::size_t>(sesion.paleta)]) {
+        Calco nueva = muestraDe(sesion.dibujo, sesion.paleta, i++);
+        if (nueva == muestra) continue;
+        muestra = std::move(nueva);
+        boton->setIconSize(tamanoMuestra);
+        boton->ponerImagen(
+            [calco = muestra](const QPalette& paleta) { return imagenElemento(calco, paleta); });
+    }
 }
 
 }  // namespace bosquel

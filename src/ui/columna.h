@@ -1,6 +1,7 @@
 #pragma once
 
 #include "drawing/bosquel.h"
+#include "surface/calco.h"
 
 #include <QLabel>
 #include <QWidget>
@@ -20,6 +21,8 @@ class Columna final : public QWidget {
 
     /// Shows the palette that the session says.
     void mostrarPaleta();
+    /// The pictures of the palette on view follow the models.
+    void mostrarMuestras();
 
   private:
     std::vector<Boton*> poner(const GrupoDeBotones& grupo, QWidget* padre, int y);
@@ -27,7 +30,14 @@ class Columna final : public QWidget {
 
     Bosquel& bosquel_;
     QLabel* letrero_ = nullptr;
+    /// A button of a palette and the element that it shows, if it shows one.
+    struct Puesto {
+        Boton* boton;
+        Calco muestra;
+    };
+
     std::vector<QWidget*> paneles_;  ///< by the values of `Paleta`
+    std::vector<std::vector<Puesto>> puestos_;
 };
 
 }  // namespace bosquel

@@ -39,11 +39,6 @@ QColor mezcla(const QColor& a, const QColor& b, float peso) {
                             canal(a.blueF(), b.blueF(), peso));
 }
 
-QColor opaco(const QPalette& paleta, QPalette::ColorGroup grupo, QPalette::ColorRole rol) {
-    const QColor color = paleta.color(grupo, rol);
-    return mezcla(color, paleta.color(grupo, QPalette::Window), color.alphaF());
-}
-
 class MotorIcono final : public QIconEngine {
   public:
     MotorIcono(QByteArray dibujo, QPalette paleta) : dibujo_(std::move(dibujo)), paleta_(std::move(paleta)) {}
@@ -90,6 +85,11 @@ class MotorIcono final : public QIconEngine {
 };
 
 }  // namespace
+
+QColor opaco(const QPalette& paleta, QPalette::ColorGroup grupo, QPalette::ColorRole rol) {
+    const QColor color = paleta.color(grupo, rol);
+    return mezcla(color, paleta.color(grupo, QPalette::Window), color.alphaF());
+}
 
 QIcon icono(const QString& nombre, const QPalette& paleta) {
     const QByteArray dibujo = leer(nombre);

@@ -3,6 +3,8 @@
 #include "ui/colores_forma.h"
 #include "ui/entrada_forma.h"
 #include "ui/hoja_widget.h"
+#include "ui/mesa_forma.h"
+#include "ui/mueble_forma.h"
 #include "ui/opciones_forma.h"
 #include "ui/paralelas_forma.h"
 #include "ui/pared_prop_forma.h"
@@ -93,8 +95,12 @@ void PlataformaQt::mostrar(Entrada& dialogo) {
 }
 void PlataformaQt::mostrar(EscaleraProp&) {}
 void PlataformaQt::mostrar(ImageCrop&) {}
-void PlataformaQt::mostrar(MesaProp&) {}
-void PlataformaQt::mostrar(MuebleProp&) {}
+void PlataformaQt::mostrar(MesaProp& dialogo) {
+    MesaForma(dialogo, ventana_).exec();
+}
+void PlataformaQt::mostrar(MuebleProp& dialogo) {
+    MuebleForma(dialogo, ventana_).exec();
+}
 void PlataformaQt::mostrar(Opciones& dialogo) {
     OpcionesForma(dialogo, ventana_).exec();
 }
@@ -171,7 +177,7 @@ void PlataformaQt::vistaCambiada() {
 }
 
 void PlataformaQt::repintar(const ZonaSucia& zona, const ZonaSucia& paso) {
-    if (ventana_) ventana_->hoja().ensuciar(zona, paso);
+    if (ventana_) ventana_->mostrarCambios(zona, paso);
 }
 
 void PlataformaQt::terminar() {

@@ -14,10 +14,6 @@ namespace {
 constexpr QSize tamanoMuestra{44, 22};
 constexpr int separacion = 4;  // px
 
-Color colorDe(const QColor& color) {
-    return color.red() | color.green() << 8 | color.blue() << 16;
-}
-
 }  // namespace
 
 SelectorColor::SelectorColor(const QString& muestra, const QString& boton, const QString& leido,

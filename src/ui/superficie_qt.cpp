@@ -33,12 +33,21 @@ bool cerca(QPointF punto) {
     return std::abs(punto.x()) <= lejos && std::abs(punto.y()) <= lejos;
 }
 
+/// The nearest place that a painter can take.
+QPointF acercado(QPointF punto) {
+    return {std::clamp(punto.x(), -lejos, lejos), std::clamp(punto.y(), -lejos, lejos)};
+}
+
 }  // namespace
 
 QColor colorQt(Color color) {
     const auto plano = static_cast<unsigned>(rgb(color));
     return QColor::fromRgb(static_cast<int>(plano & 0xFFU), static_cast<int>((plano >> 8U) & 0xFFU),
                            static_cast<int>((plano >> 16U) & 0xFFU));
+}
+
+Color colorDe(const QColor& color) {
+    return color.red() | color.green() << 8 | color.blue() << 16;
 }
 
 QFont fuenteTexto(double puntos, double escala) {
@@ -92,10 +101,10 @@ void SuperficieQt::trazarLinea(double x1, double y1, double x2, double y2, Color
 }
 
 void SuperficieQt::trazarCaja(double x1, double y1, double x2, double y2, Color color) {
-    const QRectF entero = QRectF(enPixeles(x1, y1), enPixeles(x2, y2)).normalized();
-    const QRectF cercano = entero & QRectF(-lejos, -lejos, 2 * lejos, 2 * lejos);
-    const QPoint esquina = enteros(cercano.topLeft());
-    const QPoint opuesta = enteros(cercano.bottomRight());
+    const QPoint una = enteros(acercado(enPixeles(x1, y1)));
+    const QPoint otra = enteros(acercado(enPixeles(x2, y2)));
+    const QPoint esquina(std::min(una.x(), otra.x()), std::min(una.y(), otra.y()));
+    const QPoint opuesta(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()));
     ponerLapiz(color);
     pintor_.drawRect(QRect(esquina, QSize(opuesta.x() - esquina.x(), opuesta.y() - esquina.y())));
 }

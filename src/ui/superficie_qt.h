@@ -53,8 +53,9 @@ class SuperficieQt final : public SuperficieSalida {
 /// The type of free texts, `escala` pixels to a sheet unit.
 QFont fuenteTexto(double puntos, double escala);
 
-/// The colour as the toolkit has it.
+/// The colour as the toolkit has it, and back: a plain one.
 QColor colorQt(Color color);
+Color colorDe(const QColor& color);
 
 /// The part of a line that lies near the paper, in whole pixels; nothing if none does. A painter takes ints,
 /// and a drawing may reach far beyond them.

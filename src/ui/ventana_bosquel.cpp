@@ -194,6 +194,12 @@ void VentanaBosquel::mostrarVista() {
     escala_->setText(QString::fromStdString(textoEscala(sesion.dibujo.FactorZoomActual)));
 }
 
+void VentanaBosquel::mostrarCambios(const ZonaSucia& zona, const ZonaSucia& paso) {
+    hoja_->ensuciar(zona, paso);
+    // Whatever changes a model changes something at rest as well: a drag does not.
+    if (!zona.limpia()) columna_->mostrarMuestras();
+}
+
 void VentanaBosquel::mouseMoveEvent(QMouseEvent*) {
     bosquel_.cruzarVentana();
 }

@@ -25,6 +25,9 @@ class VentanaBosquel final : public QWidget {
     /// Shows the session's view anew: sheet, bars, ruler, borders, palette.
     void mostrarVista();
 
+    /// Something on the sheet or a model has changed.
+    void mostrarCambios(const ZonaSucia& zona, const ZonaSucia& paso);
+
     HojaWidget& hoja() { return *hoja_; }
     QTimer& tmrAutoSave() { return *tmrAutoSave_; }
     QTimer& timer2() { return *timer2_; }

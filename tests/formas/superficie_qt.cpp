@@ -420,3 +420,30 @@ TEST(PinturaHoja, UnTrozoPintadoDeNuevoNoCambiaNada) {
         }
     EXPECT_TRUE(aTrozos == entera);
 }
+
+TEST(SuperficieQt, UnaCajaSinAnchoEsUnTrazo) {
+    const QImage imagen =
+        pintado([](SuperficieSalida& superficie) { superficie.Caja(50, 20, 50, 80, negro); });
+    EXPECT_TRUE(tinta(imagen, 50, 20) && tinta(imagen, 50, 50) && tinta(imagen, 50, 80));
+    EXPECT_FALSE(tinta(imagen, 0, 0) || tinta(imagen, 51, 50) || tinta(imagen, 49, 50));
+}
+
+TEST(SuperficieQt, UnaCajaFueraDelPapelNoDejaTinta) {
+    for (const double lejos : {400.0, -400.0, 1e6, -1e6, 1e300, -1e300}) {
+        const QImage imagen = pintado([&](SuperficieSalida& superficie) {
+            superficie.FillStyle(Relleno::solido);
+            superficie.Caja(lejos, lejos, lejos + lejos / 10, lejos + 50, negro);
+        });
+        EXPECT_EQ(imagen, papel()) << lejos;
+    }
+}
+
+TEST(SuperficieQt, UnaCajaQueAbarcaElPapelLoLlena) {
+    const QImage imagen = pintado([](SuperficieSalida& superficie) {
+        superficie.FillStyle(Relleno::solido);
+        superficie.FillColor(rojo);
+        superficie.Caja(1e9, -1e300, -1e9, 1e7, negro);
+    });
+    EXPECT_EQ(imagen.pixelColor(0, 0), QColor(Qt::red));
+    EXPECT_EQ(imagen.pixelColor(299, 299), QColor(Qt::red));
+}
