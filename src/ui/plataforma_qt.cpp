@@ -1,6 +1,8 @@
 #include "ui/plataforma_qt.h"
 
+#include "ui/electrico_forma.h"
 #include "ui/entrada_forma.h"
+#include "ui/escalera_forma.h"
 #include "ui/hoja_widget.h"
 #include "ui/opciones_forma.h"
 #include "ui/paralelas_forma.h"
@@ -78,11 +80,15 @@ Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
 }
 
 void PlataformaQt::mostrar(Colores&) {}
-void PlataformaQt::mostrar(ElectricoProp&) {}
+void PlataformaQt::mostrar(ElectricoProp& dialogo) {
+    ElectricoForma(dialogo, ventana_).exec();
+}
 void PlataformaQt::mostrar(Entrada& dialogo) {
     EntradaForma(dialogo).exec();
 }
-void PlataformaQt::mostrar(EscaleraProp&) {}
+void PlataformaQt::mostrar(EscaleraProp& dialogo) {
+    EscaleraForma(dialogo, ventana_).exec();
+}
 void PlataformaQt::mostrar(ImageCrop&) {}
 void PlataformaQt::mostrar(MesaProp&) {}
 void PlataformaQt::mostrar(MuebleProp&) {}
