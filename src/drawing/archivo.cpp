@@ -86,7 +86,7 @@ void AbrirDibujo(Sesion& sesion) {
     sesion.regla.FactorZoom = sesion.dibujo.FactorZoomActual;
     if (sesion.dibujo.VerCuadricula) DibujarCuadricula(sesion);
     leerElementos(archivo, sesion.dibujo);
-    sesion.dibujo.sucia.anadirTodo();
+    anunciarTodo(sesion.dibujo);
     sesion.plataforma.ponerTitulo(titulo(*ruta));
 }
 

@@ -1,8 +1,11 @@
 #include "drawing/bosquel.h"
 
 #include "drawing/archivo.h"
+#include "drawing/creacion.h"
 #include "drawing/entrada.h"
+#include "drawing/foco.h"
 #include "drawing/regla.h"
+#include "drawing/texto_libre.h"
 #include "drawing/vista.h"
 
 namespace bosquel {
@@ -117,6 +120,36 @@ void Bosquel::pulsarUsuario(int indice) {
     bosquel::pulsarUsuario(sesion_, indice);
 }
 
+void Bosquel::pulsarMueble(int indice) {
+    const Turno turno(sesion_);
+    bosquel::pulsarMueble(sesion_, indice);
+}
+
+void Bosquel::pulsarBaño(int indice) {
+    const Turno turno(sesion_);
+    bosquel::pulsarBaño(sesion_, indice);
+}
+
+void Bosquel::pulsarCocina(int indice) {
+    const Turno turno(sesion_);
+    bosquel::pulsarCocina(sesion_, indice);
+}
+
+void Bosquel::pulsarElectrico(int indice) {
+    const Turno turno(sesion_);
+    bosquel::pulsarElectrico(sesion_, indice);
+}
+
+void Bosquel::escribirTexto(const std::string& escrito) {
+    const Turno turno(sesion_);
+    bosquel::escribirTexto(sesion_, escrito);
+}
+
+void Bosquel::perderFoco() {
+    const Turno turno(sesion_);
+    quitarFoco(sesion_);
+}
+
 void Bosquel::suprimir() {
     const Turno turno(sesion_);
     teclaSuprimir(sesion_);
@@ -128,7 +161,7 @@ void Bosquel::cerrar() {
 
 void Bosquel::pasarTimer2() {
     const Turno turno(sesion_);
-    sesion_.plataforma.activar(Reloj::Timer2, false);
+    abrirDiferido(sesion_);
 }
 
 void Bosquel::minutoDeAutoSave() {

@@ -41,7 +41,16 @@ class Bosquel {
     void pulsarOperacion(int indice);
     void pulsarTipo(int indice);
     void pulsarUsuario(int indice);
+    void pulsarMueble(int indice);
+    void pulsarBaño(int indice);
+    void pulsarCocina(int indice);
+    void pulsarElectrico(int indice);
     void suprimir();
+
+    /// The text that has the focus says something else.
+    void escribirTexto(const std::string& escrito);
+    /// Another control of the window took the focus from what has it on the sheet.
+    void perderFoco();
 
     void minutoDeAutoSave();
     /// The event that armed `Timer2` has ended.

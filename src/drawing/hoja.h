@@ -1,5 +1,6 @@
 #pragma once
 
+#include "drawing/elementos.h"
 #include "drawing/pinza_pared.h"
 #include "drawing/sesion.h"
 
@@ -7,11 +8,13 @@
 
 namespace bosquel {
 
-/// A grip that stands under the pointer: of a wall, a window or a door.
+/// What stands under the pointer: a grip of a wall, a window or a door, or any other element by itself.
 struct Diana {
     Clase clase = Clase::Pared;
     int indice = 0;
-    PinzaDePared pinza = PinzaDePared::inicial;  ///< windows and doors have one only
+    PinzaDePared pinza = PinzaDePared::inicial;  ///< walls have more than one
+
+    Referencia referencia() const { return {clase, static_cast<std::int16_t>(indice)}; }
 };
 
 /// The sheet's pointer pipeline. It finds what stands under the pointer, keeps it from press to release, and
@@ -29,7 +32,7 @@ class Hoja {
     void dobleClic(float X, float Y);
 
   private:
-    enum class Agarre : std::uint8_t { nada, hoja, pinza };
+    enum class Agarre : std::uint8_t { nada, hoja, diana };
 
     std::optional<Diana> agarrar(float X, float Y);
 
@@ -38,8 +41,8 @@ class Hoja {
     Diana agarrada_;
 };
 
-/// The topmost grip at a point of the sheet.
-std::optional<Diana> dianaBajo(const Dibujo& dibujo, float X, float Y);
+/// The topmost thing at a point of the sheet.
+std::optional<Diana> dianaBajo(Sesion& sesion, float X, float Y);
 
 // The sheet's own events, where nothing stands under the pointer.
 

@@ -98,7 +98,10 @@ void moverHoja(Sesion& sesion, bool boton1, float X, float Y) {
             break;
         case Modo::Seleccion: {
             const Pared* pared = dibujo.Pared.en(dibujo.ParedBajoPuntero);
-            if (pared && pared->ParedPick.BackColor != rojo) QuitarSeleccion(dibujo);
+            if (pared && pared->ParedPick.BackColor != rojo) {
+                QuitarSeleccion(dibujo);
+                apagar(dibujo, {Clase::Escalera, dibujo.EscaleraBajoPuntero});
+            }
             break;
         }
         case Modo::PrimeraPared:

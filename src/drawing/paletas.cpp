@@ -2,6 +2,7 @@
 
 #include "drawing/aberturas.h"
 #include "drawing/archivo.h"
+#include "drawing/creacion.h"
 #include "drawing/escaleras.h"
 #include "drawing/seleccion.h"
 
@@ -73,6 +74,7 @@ void pulsarUsuario(Sesion& sesion, int indice) {
     CheckAutoSaving(sesion, true);
     if (indice >= 0 && static_cast<std::size_t>(indice) < tiposDePared.size())
         crearPared(sesion, tiposDePared[static_cast<std::size_t>(indice)]);
+    if (indice == datos(Clase::TextoLibre).boton) crearTexto(sesion);
     if (indice == datos(Clase::Puerta).boton || indice == datos(Clase::Ventana).boton) {
         // No wall was ever laid: the gate stays shut until the next command.
         if (sesion.dibujo.Pared.contador == 1) return;

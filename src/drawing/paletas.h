@@ -22,16 +22,36 @@ inline constexpr std::array<BotonDePaleta, 6> BttTipo{{{"Muebles", true},
                                                        {"Escalera", true},
                                                        {"Eléctrico", true}}};
 
-inline constexpr std::array<BotonDePaleta, 6> BttMueble{
-    {{"Mesa"}, {"Silla"}, {"Cama 90"}, {"Cama M"}, {"Armario"}, {"Asiento"}}};
-inline constexpr std::array<BotonDePaleta, 6> BttBaño{
-    {{"Inodoro"}, {"Lavabo"}, {"Bidet"}, {"Bañera"}, {"Ducha"}, {"Urinario"}}};
-inline constexpr std::array<BotonDePaleta, 6> BttCocina{
-    {{"Nevera"}, {"Cocina"}, {"Fregad."}, {"Lavado."}, {"Lavade."}, {"Vertede."}}};
-inline constexpr std::array<BotonDePaleta, 6> BttUsuario{
-    {{"Muro", true}, {"Tabique", true}, {"Pilar", true}, {"Texto"}, {"Puerta", true}, {"Ventana", true}}};
-inline constexpr std::array<BotonDePaleta, 6> BttElectrico{
-    {{"Luz"}, {"Llave"}, {"Enchufe"}, {"Pulsador"}, {"Señal"}, {"Cuadro"}}};
+inline constexpr std::array<BotonDePaleta, 6> BttMueble{{{"Mesa", true},
+                                                         {"Silla", true},
+                                                         {"Cama 90", true},
+                                                         {"Cama M", true},
+                                                         {"Armario", true},
+                                                         {"Asiento", true}}};
+inline constexpr std::array<BotonDePaleta, 6> BttBaño{{{"Inodoro", true},
+                                                       {"Lavabo", true},
+                                                       {"Bidet", true},
+                                                       {"Bañera", true},
+                                                       {"Ducha", true},
+                                                       {"Urinario", true}}};
+inline constexpr std::array<BotonDePaleta, 6> BttCocina{{{"Nevera", true},
+                                                         {"Cocina", true},
+                                                         {"Fregad.", true},
+                                                         {"Lavado.", true},
+                                                         {"Lavade.", true},
+                                                         {"Vertede.", true}}};
+inline constexpr std::array<BotonDePaleta, 6> BttUsuario{{{"Muro", true},
+                                                          {"Tabique", true},
+                                                          {"Pilar", true},
+                                                          {"Texto", true},
+                                                          {"Puerta", true},
+                                                          {"Ventana", true}}};
+inline constexpr std::array<BotonDePaleta, 6> BttElectrico{{{"Luz", true},
+                                                            {"Llave", true},
+                                                            {"Enchufe", true},
+                                                            {"Pulsador", true},
+                                                            {"Señal", true},
+                                                            {"Cuadro", true}}};
 
 /// The relations between walls: starts the tool that the button stands for.
 void pulsarOperacion(Sesion& sesion, int indice);

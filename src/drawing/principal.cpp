@@ -1,8 +1,10 @@
 #include "drawing/principal.h"
 
 #include "drawing/archivo.h"
+#include "drawing/foco.h"
 #include "drawing/hoja.h"
 #include "drawing/opciones.h"
+#include "drawing/propiedades.h"
 #include "drawing/seleccion.h"
 #include "drawing/vista.h"
 #include "walls/grupos.h"
@@ -81,6 +83,7 @@ void cruzarPrincipal(Sesion& sesion, Principal boton) {
 
 void teclaSuprimir(Sesion& sesion) {
     pulsarPrincipal(sesion, Principal::Eliminar);
+    ocultarMarco(sesion);
 }
 
 }  // namespace bosquel

@@ -1,6 +1,6 @@
 #include "drawing/seleccion.h"
 
-#include "drawing/aberturas.h"
+#include "drawing/foco.h"
 #include "model/numeros.h"
 #include "openings/puerta.h"
 #include "openings/ventana.h"
@@ -47,20 +47,33 @@ void eliminarPared(Sesion& sesion, int indice, bool forzar) {
     if (respuesta == Respuesta::si) eliminarGrupo(dibujo, grupo);
 }
 
+void quitar(Sesion& sesion, Referencia cual) {
+    conColeccion(sesion.dibujo, cual.clase, [&](auto& coleccion) { coleccion.quitar(cual.indice); });
+    anunciar(sesion.dibujo, cual.clase, cual.indice);
+    olvidarFoco(sesion, cual);
+}
+
 }  // namespace
+
+bool* resaltadoDe(Dibujo& dibujo, Referencia cual) {
+    if (!situado(dibujo, cual)) return nullptr;
+    if (cual.clase == Clase::Escalera) return &dibujo.Escalera.en(cual.indice)->Resaltado;
+    if (cual.clase == Clase::Electrico) return &dibujo.Electrico.en(cual.indice)->Resaltado;
+    return nullptr;
+}
+
+void apagar(Dibujo& dibujo, Referencia cual) {
+    bool* resaltado = resaltadoDe(dibujo, cual);
+    if (!resaltado || !*resaltado) return;
+    *resaltado = false;
+    anunciar(dibujo, cual.clase, cual.indice);
+}
 
 void QuitarSeleccion(Dibujo& dibujo) {
     if (dibujo.ElementoActual == Clase::Pared) DeseleccionaPared(dibujo, dibujo.ParedBajoPuntero);
     if (dibujo.ElementoActual == Clase::Ventana) DeseleccionaVentana(dibujo, dibujo.VentanaBajoPuntero);
     if (dibujo.ElementoActual == Clase::Puerta) DeseleccionaPuerta(dibujo, dibujo.PuertaBajoPuntero);
-}
-
-void MostrarPropiedades(Sesion& sesion) {
-    const auto clase = sesion.dibujo.ElementoActual;
-    const int indice = sesion.dibujo.IndiceActual;
-    if (clase == Clase::Pared) AbreParedProp(sesion, indice);
-    if (clase == Clase::Ventana) AbreVentanaProp(sesion, indice);
-    if (clase == Clase::Puerta) AbrePuertaProp(sesion, indice);
+    if (dibujo.ElementoActual) apagar(dibujo, {*dibujo.ElementoActual, dibujo.IndiceActual});
 }
 
 void EliminarElemento(Sesion& sesion, bool Forzar) {
@@ -75,12 +88,12 @@ void EliminarElemento(Sesion& sesion, bool Forzar) {
     else if (clase == Clase::Puerta)
         EliminaPuerta(dibujo, indice);
     else
-        conColeccion(dibujo, *clase, [&](auto& coleccion) { coleccion.quitar(indice); });
+        quitar(sesion, {*clase, dibujo.IndiceActual});
 }
 
 void EliminarTodos(Sesion& sesion) {
     Dibujo& dibujo = sesion.dibujo;
-    dibujo.sucia.anadirTodo();
+    anunciarTodo(dibujo);
     for (const Clase clase : ordenDeEliminar()) {
         const int contador =
             conColeccion(dibujo, clase, [](const auto& coleccion) { return coleccion.contador; });
@@ -91,6 +104,7 @@ void EliminarTodos(Sesion& sesion) {
             EliminarElemento(sesion, clase == Clase::Pared);
         }
     }
+    ocultarMarco(sesion);
 }
 
 void AbreParedProp(Sesion& sesion, int indice) {

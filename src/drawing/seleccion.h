@@ -5,11 +5,14 @@
 namespace bosquel {
 
 /// Clears the marks of the current element: of the wall, window or door that the pointer crossed last, since
-/// a grip has to be crossed to be pressed.
+/// a grip has to be crossed to be pressed; of the stair or symbol itself.
 void QuitarSeleccion(Dibujo& dibujo);
 
-/// The dialog of the current element.
-void MostrarPropiedades(Sesion& sesion);
+/// The sign by which a stair or a symbol shows that it is selected; nullptr for whatever has none.
+bool* resaltadoDe(Dibujo& dibujo, Referencia cual);
+
+/// That sign goes out.
+void apagar(Dibujo& dibujo, Referencia cual);
 
 /// Removes the current element. A wall of a group asks first, unless `Forzar` is true. The selection goes on
 /// pointing at the hole, so that removing again does nothing.

@@ -8,6 +8,7 @@ void publicar(Sesion& sesion) {
         sesion.plataforma.vistaCambiada();
     }
     Dibujo& dibujo = sesion.dibujo;
+    sesion.mapa.ponerAlDia(dibujo);
     if (dibujo.sucia.limpia() && dibujo.paso.limpia()) return;
     sesion.plataforma.repintar(dibujo.sucia, dibujo.paso);
     dibujo.sucia.vaciar();

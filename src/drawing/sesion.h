@@ -1,5 +1,6 @@
 #pragma once
 
+#include "drawing/mapa.h"
 #include "model/dibujo.h"
 #include "platform/plataforma.h"
 
@@ -35,6 +36,13 @@ struct CuadriculaDibujada {
     double ancho = 0, alto = 0;
 };
 
+/// The frame around the selected element, a little larger than its box. Sheet units.
+struct MarcoDeSeleccion {
+    static constexpr double aire = 15;
+    Recuadro recuadro;
+    bool Visible = false;
+};
+
 /// The palettes of element buttons, of which one at most is on view.
 enum class Paleta : std::uint8_t { FrMuebles, FrBaño, FrCocina, FrUsuario, FrElectrico, ninguna };
 
@@ -54,6 +62,9 @@ struct Sesion {
     Regla regla;
     CuadriculaDibujada cuadricula;
     Segmento Vector;  ///< the rubber line that pans the sheet
+    MarcoDeSeleccion RectSel;
+    std::optional<Referencia> foco;  ///< the piece of furniture or the text that has the input focus
+    Mapa mapa;
     Paleta paleta = Paleta::FrUsuario;
     std::string_view Letrero = "Divisiones";
     int bordeElevado = -1;  ///< the main button whose border is raised, -1 for none

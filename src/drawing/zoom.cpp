@@ -1,3 +1,5 @@
+#include "drawing/foco.h"
+#include "drawing/texto_libre.h"
 #include "drawing/vista.h"
 #include "model/numeros.h"
 #include "openings/puerta.h"
@@ -62,17 +64,23 @@ void ampliar(Dibujo& dibujo, int indice, Puerta&) {
     DeseleccionaPuerta(dibujo, indice);
 }
 
-void ampliar(Dibujo& dibujo, int, TextoLibre& texto) {
-    escalarLugar(texto, dibujo.RelacionZoom);
-    texto.FontSize = 12 * dibujo.FactorZoomActual;
+void ampliar(Sesion& sesion, TextoLibre& texto) {
+    escalarLugar(texto, sesion.dibujo.RelacionZoom);
+    texto.FontSize = puntosDeTexto * sesion.dibujo.FactorZoomActual;
+    ajustarATexto(sesion, texto);
 }
 
-void ampliarTodo(Dibujo& dibujo) {
+void ampliarTodo(Sesion& sesion) {
+    Dibujo& dibujo = sesion.dibujo;
     for (const DatosClase& fila : todasLasClases())
         conColeccion(dibujo, fila.clase, [&](auto& coleccion) {
             const int hasta = coleccion.contador - (fila.zoomConContador ? 0 : 1);
-            coleccion.recorrer(fila.desdeZoom, hasta,
-                               [&](int indice, auto& elemento) { ampliar(dibujo, indice, elemento); });
+            coleccion.recorrer(fila.desdeZoom, hasta, [&](int indice, auto& elemento) {
+                if constexpr (requires { elemento.Text; })
+                    ampliar(sesion, elemento);
+                else
+                    ampliar(dibujo, indice, elemento);
+            });
         });
 }
 
@@ -89,16 +97,17 @@ void EjecutarZOOM(Sesion& sesion) {
     if (sesion.EjecutandoZoom) return;
     sesion.EjecutandoZoom = true;
     Dibujo& dibujo = sesion.dibujo;
-    dibujo.sucia.anadirTodo();
+    anunciarTodo(dibujo);
     darPaso(dibujo);
     escalar(dibujo.Hoja.Width, dibujo.RelacionZoom);
     escalar(dibujo.Hoja.Height, dibujo.RelacionZoom);
     sesion.regla.FactorZoom = dibujo.FactorZoomActual;
-    ampliarTodo(dibujo);
+    ampliarTodo(sesion);
     conservarCentro(dibujo.Hoja.Left, sesion.visorAncho, dibujo.RelacionZoom);
     conservarCentro(dibujo.Hoja.Top, sesion.visorAlto, dibujo.RelacionZoom);
     ActualizarBarras(sesion);
     if (dibujo.VerCuadricula) DibujarCuadricula(sesion);
+    if (sesion.foco) enmarcar(sesion, *sesion.foco);
     sesion.EjecutandoZoom = false;
 }
 

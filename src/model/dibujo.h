@@ -95,6 +95,8 @@ struct Dibujo {
     ZonaSucia sucia;                               ///< where something at rest has changed
     ZonaSucia paso;                                ///< where something that is being dragged was and is now
     std::vector<Referencia> cambiados;             ///< elements that have changed, see `anunciar`
+    bool todoCambiado = true;                      ///< anything may have changed, see `anunciarTodo`
+    std::optional<Referencia> ObjetoEnMovimiento;  ///< what is being dragged, walls excepted
     std::int32_t ordenFrente = 0, ordenFondo = 0;  ///< the ends of the z-order, see `alFrente`
 };
 
@@ -106,8 +108,19 @@ void anunciar(Dibujo& dibujo, Clase clase, int indice);
 void anunciarTodo(Dibujo& dibujo);
 
 /// The z-order: whatever is brought to the front lies over all the rest, what is sent to the back under it.
-void alFrente(Dibujo& dibujo, Pinza& pinza);
-void alFondo(Dibujo& dibujo, Pinza& pinza);
+template <class Cosa>
+void alFrente(Dibujo& dibujo, Cosa& cosa) {
+    cosa.orden = ++dibujo.ordenFrente;
+}
+template <class Cosa>
+void alFondo(Dibujo& dibujo, Cosa& cosa) {
+    cosa.orden = --dibujo.ordenFondo;
+}
+
+/// What stands on the sheet at a place of its own: nullptr for a hole, for a model, and for walls and
+/// openings.
+Situado* situado(Dibujo& dibujo, Referencia cual);
+const Situado* situado(const Dibujo& dibujo, Referencia cual);
 
 /// Calls `paso` with the collection of a kind and gives what it gives: the one place that knows which
 /// collection belongs to which kind.

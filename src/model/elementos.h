@@ -18,11 +18,17 @@ namespace bosquel {
 inline constexpr const char* estadoNuevo = "Nuevo";      ///< until the element's dialog is first applied
 inline constexpr const char* estadoEdicion = "Edicion";  ///< ever after
 
-/// What all elements with a place of their own share. A new one is not visible.
-struct Elemento {
+/// What stands on the sheet at a place of its own. A new one is not visible. `orden` is its place in the
+/// z-order: the higher, the nearer to the eye; among equals the order of the output counts.
+struct Situado {
     float Left = 0, Top = 0;
-    double FactorZOOM = 0.5;
     bool Visible = false;
+    std::int32_t orden = 0;
+};
+
+/// What furniture, stairs and symbols share.
+struct Elemento : Situado {
+    double FactorZOOM = 0.5;
     Color LineColor = colorTextoVentana;
 };
 
@@ -194,11 +200,9 @@ struct Puerta : Abertura {
     std::array<const Pinza*, 1> pinzas() const { return {&PuertaPick}; }
 };
 
-struct TextoLibre {
-    float Left = 0, Top = 0;
+struct TextoLibre : Situado {
     float Width = 0, Height = 0;  ///< the box that its text fills
     double FontSize = 6;          ///< points: 12 times the zoom factor
-    bool Visible = false;
     Color ForeColor = colorTextoVentana;
     std::string Text;
 };

@@ -42,11 +42,11 @@ struct PaletaDeBotones {
 
 /// By the values of `Paleta`.
 constexpr std::array<PaletaDeBotones, 5> paletas{
-    {{"FrMuebles", {"BttMueble", BttMueble}},
-     {"FrBaño", {"BttBaño", BttBaño}},
-     {"FrCocina", {"BttCocina", BttCocina}},
+    {{"FrMuebles", {"BttMueble", BttMueble, {}, &Bosquel::pulsarMueble}},
+     {"FrBaño", {"BttBaño", BttBaño, {}, &Bosquel::pulsarBaño}},
+     {"FrCocina", {"BttCocina", BttCocina, {}, &Bosquel::pulsarCocina}},
      {"FrUsuario", {"BttUsuario", BttUsuario, imagenesUsuario, &Bosquel::pulsarUsuario}},
-     {"FrElectrico", {"BttElectrico", BttElectrico}}}};
+     {"FrElectrico", {"BttElectrico", BttElectrico, {}, &Bosquel::pulsarElectrico}}}};
 
 /// Two abreast.
 QRect sitio(std::size_t indice, int y) {

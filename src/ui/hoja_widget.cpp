@@ -1,5 +1,6 @@
 #include "ui/hoja_widget.h"
 
+#include "ui/editor_texto.h"
 #include "ui/iconos.h"
 #include "ui/pintura_hoja.h"
 #include "ui/unidades.h"
@@ -36,7 +37,8 @@ QRect enPixeles(const QRect& zona, double escala) {
 
 }  // namespace
 
-HojaWidget::HojaWidget(Bosquel& bosquel, QWidget* padre) : QWidget(padre), bosquel_(bosquel) {
+HojaWidget::HojaWidget(Bosquel& bosquel, QWidget* padre)
+    : QWidget(padre), bosquel_(bosquel), editor_(new EditorTexto(bosquel, this)) {
     setObjectName("Hoja");
     setAccessibleName("Hoja de dibujo");
     setMouseTracking(true);
@@ -54,6 +56,7 @@ void HojaWidget::situar() {
     if (origen != origen_) update();
     origen_ = origen;
     setGeometry(x.lugar, y.lugar, x.tamano, y.tamano);
+    editor_->seguirFoco(origen_);
 }
 
 QRect HojaWidget::aLaVista() const {
@@ -72,6 +75,7 @@ QRegion HojaWidget::region(const std::vector<Recuadro>& zonas) const {
 }
 
 void HojaWidget::ensuciar(const ZonaSucia& zona, const ZonaSucia& paso) {
+    editor_->seguirFoco(origen_);
     if (zona.todo()) {
         pendiente_ = aLaVista();
         update();
@@ -143,6 +147,15 @@ QPointF HojaWidget::enHoja(const QMouseEvent& evento) const {
 void HojaWidget::mousePressEvent(QMouseEvent* evento) {
     const QPointF punto = enHoja(*evento);
     bosquel_.pulsar(static_cast<float>(punto.x()), static_cast<float>(punto.y()));
+    editor_->seguirFoco(origen_);
+    editor_->ponerCaret(evento->position().toPoint());
+}
+
+/// The Tab key leaves the sheet, and what has the focus on it.
+void HojaWidget::focusOutEvent(QFocusEvent* evento) {
+    QWidget::focusOutEvent(evento);
+    const Qt::FocusReason motivo = evento->reason();
+    if (motivo == Qt::TabFocusReason || motivo == Qt::BacktabFocusReason) bosquel_.perderFoco();
 }
 
 void HojaWidget::mouseMoveEvent(QMouseEvent* evento) {

@@ -8,6 +8,8 @@
 
 namespace bosquel {
 
+class EditorTexto;
+
 /// The sheet. What stands still on it is kept as a picture of the part on view, so that an event of a drag
 /// costs the same whatever else is on the sheet: only the places where the dragged thing was and is are put
 /// together anew.
@@ -26,6 +28,7 @@ class HojaWidget final : public QWidget {
   protected:
     void paintEvent(QPaintEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
     void mouseMoveEvent(QMouseEvent* evento) override;
     void mouseReleaseEvent(QMouseEvent* evento) override;
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
@@ -44,6 +47,7 @@ class HojaWidget final : public QWidget {
     QPixmap fondo_;      ///< what stands still
     QRect vista_;        ///< the part of the sheet that `fondo_` shows
     QRegion pendiente_;  ///< what of it is no longer true
+    EditorTexto* editor_;
     Cursor cursor_ = Cursor::Flecha;
 };
 

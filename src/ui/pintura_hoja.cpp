@@ -1,7 +1,6 @@
 #include "ui/pintura_hoja.h"
 
 #include "furnishing/dibujar_elemento.h"
-#include "furnishing/recuadro.h"
 #include "openings/abertura.h"
 #include "openings/trazar_abertura.h"
 #include "ui/superficie_qt.h"
@@ -62,77 +61,114 @@ void pintarPinza(QPainter& pintor, const Pinza& pinza, double escala) {
     pintor.drawRect(QRect(esquina, QSize(lado - 1, lado - 1)));
 }
 
-/// Walls, openings and their grips in the z-order: grips sent to the back lie under all strokes, those
-/// brought to the front over them; openings lie over walls.
+bool enMovimiento(const Dibujo&, const Pared& pared) {
+    return pared.EnMovimiento;
+}
+
+/// What is painted one over the other, from the back to the front.
 class Capas {
   public:
     Capas(QPainter& pintor, const Dibujo& dibujo, double escala)
-        : pintor_(pintor), dibujo_(dibujo), escala_(escala) {}
+        : pintor_(pintor),
+          dibujo_(dibujo),
+          escala_(escala),
+          superficie_(pintor, escala, {}),
+          salida_(salidaDe(dibujo, superficie_, 1)) {}
 
-    void anadir(const Pared& pared) { anadir(paredes_, pared); }
-    void anadir(const Ventana& ventana) { anadir(ventanas_, ventana); }
-    void anadir(const Puerta& puerta) { anadir(puertas_, puerta); }
+    template <class T>
+    void anadir(Clase clase, int indice, const T& conPinzas) {
+        piezas_.push_back({{0, false, clase, indice}, nullptr});
+        for (const Pinza* pinza : conPinzas.pinzas())
+            if (pinza->Visible) piezas_.push_back({{pinza->orden, true, clase, indice}, pinza});
+    }
+    void anadir(Referencia cual) {
+        if (const Situado* elemento = situado(dibujo_, cual))
+            piezas_.push_back({{elemento->orden, false, cual.clase, cual.indice}, nullptr});
+    }
 
     void pintar() {
-        std::stable_sort(pinzas_.begin(), pinzas_.end(),
-                         [](const Pinza* a, const Pinza* b) { return a->orden < b->orden; });
-        const auto delante = std::find_if(pinzas_.begin(), pinzas_.end(),
-                                          [](const Pinza* pinza) { return pinza->orden >= 0; });
-        for (auto pinza = pinzas_.begin(); pinza != delante; ++pinza)
-            pintarPinza(pintor_, **pinza, escala_);
-        pintarTrazos();
-        for (auto pinza = delante; pinza != pinzas_.end(); ++pinza)
-            pintarPinza(pintor_, **pinza, escala_);
+        std::stable_sort(piezas_.begin(), piezas_.end(),
+                         [](const Pieza& a, const Pieza& b) { return a.altura < b.altura; });
+        for (const Pieza& pieza : piezas_)
+            if (pieza.pinza)
+                pintarPinza(pintor_, *pieza.pinza, escala_);
+            else
+                pintarElemento(pieza.altura.clase, pieza.altura.indice);
     }
 
   private:
-    template <class T>
-    void anadir(std::vector<const T*>& capa, const T& elemento) {
-        capa.push_back(&elemento);
-        for (const Pinza* pinza : elemento.pinzas())
-            if (pinza->Visible) pinzas_.push_back(pinza);
+    struct Pieza {
+        Altura altura;
+        const Pinza* pinza;  ///< none for the element itself
+    };
+
+    void pintarElemento(Clase clase, int indice) {
+        switch (clase) {
+            case Clase::Pared:
+                return TrazarPared(superficie_, *dibujo_.Pared.en(indice), dibujo_.Pared.modelo().LineColor,
+                                   1);
+            case Clase::Ventana:
+                return TrazarVentana(superficie_, *dibujo_.Ventana.en(indice),
+                                     dibujo_.Ventana.modelo().LineColor, 1);
+            case Clase::Puerta:
+                return TrazarPuerta(superficie_, *dibujo_.Puerta.en(indice),
+                                    dibujo_.Puerta.modelo().LineColor, 1);
+            case Clase::Escalera:
+                superficie_.ponerTinta(tinta(dibujo_.Escalera.en(indice)->Resaltado));
+                break;
+            case Clase::Electrico:
+                superficie_.ponerTinta(tinta(dibujo_.Electrico.en(indice)->Resaltado));
+                break;
+            default: break;
+        }
+        DibujarElemento(salida_, dibujo_, clase, indice);
+        superficie_.ponerTinta(std::nullopt);
     }
 
-    void pintarTrazos() {
-        SuperficieQt superficie(pintor_, escala_, {});
-        for (const Pared* pared : paredes_)
-            TrazarPared(superficie, *pared, dibujo_.Pared.modelo().LineColor, 1);
-        for (const Ventana* ventana : ventanas_)
-            TrazarVentana(superficie, *ventana, dibujo_.Ventana.modelo().LineColor, 1);
-        for (const Puerta* puerta : puertas_)
-            TrazarPuerta(superficie, *puerta, dibujo_.Puerta.modelo().LineColor, 1);
+    /// What is selected shows in red, whatever its own colour.
+    static std::optional<Color> tinta(bool resaltado) {
+        return resaltado ? std::optional(rojo) : std::nullopt;
     }
 
     QPainter& pintor_;
     const Dibujo& dibujo_;
     double escala_;
-    std::vector<const Pared*> paredes_;
-    std::vector<const Ventana*> ventanas_;
-    std::vector<const Puerta*> puertas_;
-    std::vector<const Pinza*> pinzas_;
+    SuperficieQt superficie_;
+    Salida salida_;
+    std::vector<Pieza> piezas_;
 };
 
-/// The elements with a place of their own, from one kind to another in the order of the output. What lies a
-/// pixel outside of the part wanted may be rounded into it.
-void pintarElementos(QPainter& pintor, const Dibujo& dibujo, const Recuadro& visible, double escala,
-                     Clase primera, Clase ultima) {
-    SuperficieQt superficie(pintor, escala, {});
-    const Salida salida = salidaDe(dibujo, superficie, 1);
-    const Recuadro cerca{visible.Left - 1 / escala, visible.Top - 1 / escala, visible.Width + 2 / escala,
-                         visible.Height + 2 / escala};
-    for (const DatosClase& fila : todasLasClases()) {
-        if (fila.clase < primera || fila.clase > ultima) continue;
-        conColeccion(dibujo, fila.clase, [&](const auto& coleccion) {
-            coleccion.recorrer([&](int indice, const auto&) {
-                const auto extension = extensionDe(dibujo, fila.clase, indice);
-                if (extension && extension->toca(cerca)) DibujarElemento(salida, dibujo, fila.clase, indice);
-            });
-        });
-    }
+/// What is shown by other means than the picture of what stands still: what is being dragged, and the text
+/// that is being written.
+bool seEscribe(const Sesion& sesion, Referencia cual) {
+    return cual.clase == Clase::TextoLibre && cual == sesion.foco;
+}
+bool aparte(const Sesion& sesion, Referencia cual) {
+    return cual == sesion.dibujo.ObjetoEnMovimiento || seEscribe(sesion, cual);
 }
 
-bool enMovimiento(const Dibujo&, const Pared& pared) {
-    return pared.EnMovimiento;
+/// What lies a pixel outside of the part wanted may be rounded into it.
+Recuadro conVecinos(const Recuadro& zona, double escala) {
+    return {zona.Left - 1 / escala, zona.Top - 1 / escala, zona.Width + 2 / escala, zona.Height + 2 / escala};
+}
+
+void pintarMarco(QPainter& pintor, const MarcoDeSeleccion& marco, double escala) {
+    if (!marco.Visible) return;
+    const Recuadro& zona = marco.recuadro;
+    const auto esquina = recortar(QPointF(zona.Left, zona.Top) * escala,
+                                  QPointF(zona.Left + zona.Width, zona.Top + zona.Height) * escala);
+    if (!esquina) return;
+    pintor.setPen(QPen(colorQt(rojo), 1, Qt::DotLine));
+    pintor.setBrush(Qt::NoBrush);
+    pintor.drawRect(QRect(esquina->p1(), QSize(esquina->dx(), esquina->dy())));
+}
+
+void pintarVector(QPainter& pintor, const Segmento& vector, double escala) {
+    if (!vector.Visible) return;
+    const auto linea =
+        recortar(QPointF(vector.X1, vector.Y1) * escala, QPointF(vector.X2, vector.Y2) * escala);
+    pintor.setPen(QPen(colorVector, 1, Qt::DotLine));
+    if (linea) pintor.drawLine(*linea);
 }
 
 }  // namespace
@@ -143,37 +179,39 @@ void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, dou
     const Recuadro visible = aUnidadesDeHoja(zona, escala);
     const Dibujo& dibujo = sesion.dibujo;
     Capas capas(pintor, dibujo, escala);
-    const auto anadir = [&](int, const auto& elemento) {
-        const auto extension = enMovimiento(dibujo, elemento) ? std::nullopt : contorno(elemento);
-        if (extension && extension->toca(visible)) capas.anadir(elemento);
+    const auto anadir = [&](Clase clase, const auto& coleccion) {
+        coleccion.recorrer([&](int indice, const auto& elemento) {
+            const auto extension = enMovimiento(dibujo, elemento) ? std::nullopt : contorno(elemento);
+            if (extension && extension->toca(visible)) capas.anadir(clase, indice, elemento);
+        });
     };
-    dibujo.Pared.recorrer(anadir);
-    dibujo.Ventana.recorrer(anadir);
-    dibujo.Puerta.recorrer(anadir);
-    pintarElementos(pintor, dibujo, visible, escala, Clase::MblMesa, Clase::MblVertedero);
+    anadir(Clase::Pared, dibujo.Pared);
+    anadir(Clase::Ventana, dibujo.Ventana);
+    anadir(Clase::Puerta, dibujo.Puerta);
+    for (const Referencia cual : sesion.mapa.enZona(conVecinos(visible, escala)))
+        if (!aparte(sesion, cual)) capas.anadir(cual);
     capas.pintar();
-    pintarElementos(pintor, dibujo, visible, escala, Clase::TextoLibre, Clase::Electrico);
 }
 
 void pintarEnMovimiento(QPainter& pintor, const Sesion& sesion, double escala) {
     const Dibujo& dibujo = sesion.dibujo;
     Capas capas(pintor, dibujo, escala);
     for (const int indice : sesion.paredesEnMovimiento)
-        if (const Pared* pared = dibujo.Pared.en(indice)) capas.anadir(*pared);
-    const auto anadir = [&](int, const auto& abertura) {
-        if (enMovimiento(dibujo, abertura)) capas.anadir(abertura);
+        if (const Pared* pared = dibujo.Pared.en(indice)) capas.anadir(Clase::Pared, indice, *pared);
+    const auto anadir = [&](Clase clase, const auto& coleccion) {
+        coleccion.recorrer([&](int indice, const auto& abertura) {
+            if (enMovimiento(dibujo, abertura)) capas.anadir(clase, indice, abertura);
+        });
     };
     if (!sesion.paredesEnMovimiento.empty()) {
-        dibujo.Ventana.recorrer(anadir);
-        dibujo.Puerta.recorrer(anadir);
+        anadir(Clase::Ventana, dibujo.Ventana);
+        anadir(Clase::Puerta, dibujo.Puerta);
     }
+    if (dibujo.ObjetoEnMovimiento && !seEscribe(sesion, *dibujo.ObjetoEnMovimiento))
+        capas.anadir(*dibujo.ObjetoEnMovimiento);
     capas.pintar();
-    if (!sesion.Vector.Visible) return;
-    const Segmento& vector = sesion.Vector;
-    const auto linea =
-        recortar(QPointF(vector.X1, vector.Y1) * escala, QPointF(vector.X2, vector.Y2) * escala);
-    pintor.setPen(QPen(colorVector, 1, Qt::DotLine));
-    if (linea) pintor.drawLine(*linea);
+    pintarMarco(pintor, sesion.RectSel, escala);
+    pintarVector(pintor, sesion.Vector, escala);
 }
 
 }  // namespace bosquel

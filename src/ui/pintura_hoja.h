@@ -11,10 +11,10 @@ namespace bosquel {
 // pixels from the sheet's corner, and the painter's origin is that corner. `escala` is device pixels to a
 // sheet unit.
 
-/// Paper, grid, and all that stands still: furniture under the walls, texts, stairs and symbols over them.
+/// Paper, grid, and all that stands still, in its z-order.
 void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, double escala);
 
-/// What is being dragged, and the rubber line.
+/// What is being dragged, the selection frame, and the rubber line.
 void pintarEnMovimiento(QPainter& pintor, const Sesion& sesion, double escala);
 
 }  // namespace bosquel

@@ -63,7 +63,7 @@ std::optional<QLine> recortar(QPointF desde, QPointF hasta) {
 }
 
 void SuperficieQt::ponerLapiz(Color color) {
-    pintor_.setPen(QPen(colorQt(color), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    pintor_.setPen(QPen(colorQt(tinta_.value_or(color)), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
 }
 
 /// The painter's brush is the fill state, so that it is bare again when the fill state is.

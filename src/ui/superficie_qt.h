@@ -19,6 +19,9 @@ class SuperficieQt final : public SuperficieSalida {
         pintor_.setBrush(Qt::NoBrush);
     }
 
+    /// All strokes come out in this colour, whatever their own; nothing for their own again.
+    void ponerTinta(std::optional<Color> tinta) { tinta_ = tinta; }
+
     void FillStyle(Relleno relleno) override;
     void FillColor(Color color) override;
     void CurrentX(double x) override { texto_.setX(x); }
@@ -42,6 +45,7 @@ class SuperficieQt final : public SuperficieSalida {
     QPointF origen_;
     Relleno relleno_ = Relleno::transparente;
     Color colorRelleno_ = negro, colorTexto_ = negro;
+    std::optional<Color> tinta_;
     QPointF texto_;  ///< where the next one stands, in surface units
     double puntos_ = 8;
 };

@@ -45,6 +45,21 @@ void Banco::boton(std::string_view rotulo) {
     });
 }
 
+int Banco::crea(Clase clase) {
+    const int boton = datos(clase).boton;
+    turno([&] {
+        switch (datos(clase).grupo) {
+            case Grupo::BttMueble: return bosquel.pulsarMueble(boton);
+            case Grupo::BttBaño: return bosquel.pulsarBaño(boton);
+            case Grupo::BttCocina: return bosquel.pulsarCocina(boton);
+            case Grupo::BttUsuario: return bosquel.pulsarUsuario(boton);
+            case Grupo::BttElectrico: return bosquel.pulsarElectrico(boton);
+            case Grupo::BttTipo: return bosquel.pulsarTipo(boton);
+        }
+    });
+    return conColeccion(dibujo(), clase, [](const auto& coleccion) { return coleccion.contador - 1; });
+}
+
 void Banco::minutos(int cuantos) {
     for (int i = 0; i < cuantos; ++i)
         turno([&] { bosquel.minutoDeAutoSave(); });

@@ -43,6 +43,7 @@ class Banco {
     Sesion& sesion() { return bosquel.sesion(); }
     Dibujo& dibujo() { return bosquel.sesion().dibujo; }
     const HojaDibujo& hoja() { return dibujo().Hoja; }
+    const MarcoDeSeleccion& marco() { return sesion().RectSel; }
     Modo modo() { return dibujo().ModoActual; }
     /// A wall that is there; the test ends if it is not.
     Pared& pared(int indice);
@@ -50,6 +51,8 @@ class Banco {
 
     /// Presses a button by its caption.
     void boton(std::string_view rotulo);
+    /// Presses the button that makes elements of the kind; what comes into being has the kind's last index.
+    int crea(Clase clase);
     void suprimir() {
         turno([&] { bosquel.suprimir(); });
     }

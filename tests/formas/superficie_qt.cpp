@@ -5,6 +5,7 @@
 #include "formas/apoyo_formas.h"
 #include "furnishing/dibujar_elemento.h"
 #include "furnishing/recuadro.h"
+#include "stairs_symbols/catalogo.h"
 #include "surface/escritor_svg.h"
 #include "ui/pintura_hoja.h"
 #include "walls/pared.h"
@@ -291,7 +292,9 @@ namespace {
 
 constexpr double escalaHoja = 1.0 / 15;
 
-QImage hojaPintada(const Sesion& sesion) {
+QImage hojaPintada(Sesion& sesion) {
+    anunciarTodo(sesion.dibujo);
+    sesion.mapa.ponerAlDia(sesion.dibujo);
     QImage imagen = papel();
     QPainter pintor(&imagen);
     pintarQuieto(pintor, sesion, imagen.rect(), escalaHoja);
@@ -329,6 +332,55 @@ TEST(PinturaHoja, LasClasesSePintanEnSuOrdenYLasParedesEncima) {
     const Pinza& pinza = dibujo.Pared.en(1)->ParedPick;
     const QPoint centro = (QPointF(pinza.Left, pinza.Top) * escalaHoja).toPoint() + QPoint(2, 1);
     EXPECT_NE(imagen.pixelColor(centro), QColor(255, 0, 0));
+}
+
+TEST(PinturaHoja, LoTraidoAlFrenteTapaLoDemas) {
+    PlataformaMuda plataforma;
+    Sesion sesion(plataforma, {});
+    Dibujo& dibujo = sesion.dibujo;
+    MblArmario& armario = poner(dibujo.MblArmario, 1, 20, 20, rojo);
+    poner(dibujo.MblLavadora, 1, 30, 30, verdeAzulado);
+    ASSERT_EQ(hojaPintada(sesion).pixelColor(32, 31), QColor(0, 192, 192));
+    alFrente(dibujo, armario);
+    EXPECT_EQ(hojaPintada(sesion).pixelColor(32, 31), QColor(255, 0, 0));
+}
+
+TEST(PinturaHoja, LaEscaleraYElSimboloElegidosSalenEnRojo) {
+    PlataformaMuda plataforma;
+    Sesion sesion(plataforma, {});
+    Dibujo& dibujo = sesion.dibujo;
+    Escalera& escalera = dibujo.Escalera.crear(2);
+    escalera.Visible = true;
+    Electrico& simbolo = dibujo.Electrico.crear(1);
+    ponerSimbolo(simbolo, "Cuadro Eléctrico");
+    simbolo.Visible = true;
+    simbolo.Left = 150 * 15;
+    const auto rojos = [&] {
+        const QImage imagen = hojaPintada(sesion);
+        std::array<int, 2> cuenta{};
+        for (int y = 0; y < imagen.height(); ++y)
+            for (int x = 0; x < imagen.width(); ++x)
+                if (imagen.pixelColor(x, y) == QColor(255, 0, 0)) ++cuenta[x >= 150 ? 1 : 0];
+        return cuenta;
+    };
+    EXPECT_EQ(rojos(), (std::array<int, 2>{}));
+    escalera.Resaltado = true;
+    EXPECT_GT(rojos()[0], 0);
+    EXPECT_EQ(rojos()[1], 0);
+    simbolo.Resaltado = true;
+    EXPECT_GT(rojos()[1], 0);
+}
+
+TEST(PinturaHoja, LoQueSeArrastraNoEstaEnLoQuieto) {
+    PlataformaMuda plataforma;
+    Sesion sesion(plataforma, {});
+    poner(sesion.dibujo.MblArmario, 1, 20, 20, rojo);
+    sesion.dibujo.ObjetoEnMovimiento = Referencia{Clase::MblArmario, 1};
+    QImage imagen = hojaPintada(sesion);
+    EXPECT_EQ(imagen.pixelColor(25, 25), QColor(Qt::white));
+    QPainter pintor(&imagen);
+    pintarEnMovimiento(pintor, sesion, escalaHoja);
+    EXPECT_EQ(imagen.pixelColor(25, 25), QColor(255, 0, 0));
 }
 
 TEST(PinturaHoja, CadaClaseSaleComoSuDibujo) {

@@ -403,13 +403,13 @@ TEST(AberturasPinza, LaDeEncimaRecibeElPuntero) {
     casa.puerta(1).PuertaPick.Top = casa.ventana(1).VentanaPick.Top;
     const Punto punto = casa.enVentana(1);
     alFrente(casa.dibujo(), casa.puerta(1).PuertaPick);
-    EXPECT_EQ(dianaBajo(casa.dibujo(), punto.x, punto.y)->clase, Clase::Puerta);
+    EXPECT_EQ(dianaBajo(casa.sesion(), punto.x, punto.y)->clase, Clase::Puerta);
     alFrente(casa.dibujo(), casa.ventana(1).VentanaPick);
-    EXPECT_EQ(dianaBajo(casa.dibujo(), punto.x, punto.y)->clase, Clase::Ventana);
+    EXPECT_EQ(dianaBajo(casa.sesion(), punto.x, punto.y)->clase, Clase::Ventana);
     casa.pared(1).ParedPick.Left = casa.ventana(1).VentanaPick.Left;
     casa.pared(1).ParedPick.Top = casa.ventana(1).VentanaPick.Top;
     alFrente(casa.dibujo(), casa.pared(1).ParedPick);
-    EXPECT_EQ(dianaBajo(casa.dibujo(), punto.x, punto.y)->clase, Clase::Pared);
+    EXPECT_EQ(dianaBajo(casa.sesion(), punto.x, punto.y)->clase, Clase::Pared);
 }
 
 TEST(AberturasDialogo, ElDobleClicYDefinirLoAbren) {

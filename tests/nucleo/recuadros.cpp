@@ -66,7 +66,12 @@ TEST(Recuadros, LaMesaCreceConSusSillas) {
 TEST(Recuadros, UnTextoTieneElDeSuCampoYCabeEnSuExtension) {
     Dibujo dibujo;
     TextoLibre& texto = dibujo.TextoLibre.crear(1);
-    texto = {10, 20, 300, 40, 6, true, negro, "Cocina"};
+    texto.Left = 10;
+    texto.Top = 20;
+    texto.Width = 300;
+    texto.Height = 40;
+    texto.Visible = true;
+    texto.Text = "Cocina";
     EXPECT_EQ(recuadroDe(dibujo, Clase::TextoLibre, 1), (Recuadro{10, 20, 300, 40}));
     EXPECT_EQ(extensionDe(dibujo, Clase::TextoLibre, 1), (Recuadro{10, 20, 720, 180}));
 }

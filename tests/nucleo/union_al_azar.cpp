@@ -96,7 +96,7 @@ class Usuario {
     bool clicEn(int pared) {
         for (const Pinza* pinza : banco_.pared(pared).pinzas()) {
             const Punto medio = banco_.centro(*pinza);
-            const auto diana = dianaBajo(banco_.dibujo(), medio.x, medio.y);
+            const auto diana = dianaBajo(banco_.sesion(), medio.x, medio.y);
             if (!diana || diana->indice != pared) continue;
             banco_.clic(medio);
             return true;

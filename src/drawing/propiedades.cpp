@@ -1,0 +1,33 @@
+#include "drawing/propiedades.h"
+
+#include "drawing/aberturas.h"
+#include "drawing/foco.h"
+#include "drawing/seleccion.h"
+
+namespace bosquel {
+
+namespace {
+
+void abrirMueble(Sesion&, Referencia) {}
+
+}  // namespace
+
+void abrirPropiedades(Sesion& sesion, Referencia cual) {
+    switch (cual.clase) {
+        case Clase::Pared: return AbreParedProp(sesion, cual.indice);
+        case Clase::Ventana: return AbreVentanaProp(sesion, cual.indice);
+        case Clase::Puerta: return AbrePuertaProp(sesion, cual.indice);
+        case Clase::TextoLibre: return;
+        default: break;
+    }
+    if (!situado(sesion.dibujo, cual)) return;
+    abrirMueble(sesion, cual);
+    if (sesion.foco == cual) enmarcar(sesion, cual);
+}
+
+void MostrarPropiedades(Sesion& sesion) {
+    if (const auto clase = sesion.dibujo.ElementoActual)
+        abrirPropiedades(sesion, {*clase, sesion.dibujo.IndiceActual});
+}
+
+}  // namespace bosquel
