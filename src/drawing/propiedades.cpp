@@ -1,12 +1,19 @@
 #include "drawing/propiedades.h"
 
 #include "drawing/aberturas.h"
+#include "drawing/escaleras.h"
 #include "drawing/foco.h"
 #include "drawing/seleccion.h"
+#include "stairs_symbols/electrico_prop.h"
 
 namespace bosquel {
 
 namespace {
+
+void AbreElectricoProp(Sesion& sesion, int indice) {
+    ElectricoProp dialogo(sesion.dibujo, indice);
+    mostrar(sesion, dialogo);
+}
 
 void abrirMueble(Sesion&, Referencia) {}
 
@@ -21,6 +28,8 @@ void abrirPropiedades(Sesion& sesion, Referencia cual) {
         default: break;
     }
     if (!situado(sesion.dibujo, cual)) return;
+    if (cual.clase == Clase::Escalera) return AbreEscaleraProp(sesion, cual.indice, 0);
+    if (cual.clase == Clase::Electrico) return AbreElectricoProp(sesion, cual.indice);
     abrirMueble(sesion, cual);
     if (sesion.foco == cual) enmarcar(sesion, cual);
 }

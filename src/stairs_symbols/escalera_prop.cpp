@@ -99,6 +99,7 @@ void EscaleraProp::Aplicar() {
     copiar(StairPreview_, escalera);
     escalera.FactorZOOM = dibujo_.FactorZoomActual;
     escalera.Visible = true;
+    alFrente(dibujo_, escalera);
     anunciar(dibujo_, Clase::Escalera, IndiceEscalera_);
 }
 

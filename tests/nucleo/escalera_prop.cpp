@@ -293,6 +293,15 @@ TEST_F(EscaleraPropAplicar, LaQueYaExistiaCambiaEnSuSitio) {
     EXPECT_EQ(dibujo.cambiados, (std::vector<Referencia>{{Clase::Escalera, 2}}));
 }
 
+TEST_F(EscaleraPropAplicar, QuedaDelanteDeTodo) {
+    Escalera& otra = dibujo.Escalera.crear(1);
+    alFrente(dibujo, otra);
+    abrir(2).Aplicar();
+    EXPECT_GT(escalera().orden, otra.orden);
+    abrir(0).Aplicar();
+    EXPECT_GT(escalera(3).orden, escalera().orden);
+}
+
 TEST_F(EscaleraPropAplicar, GuardarComoModeloLoEscribeTambienAlEditarUnaQueExistia) {
     EscaleraProp dialogo = abrir(2);
     dialogo.Check1 = true;

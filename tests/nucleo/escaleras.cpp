@@ -2,6 +2,8 @@
 
 #include "apoyo/banco.h"
 #include "apoyo/mensajes.h"
+#include "furnishing/recuadro.h"
+#include "stairs_symbols/electrico_prop.h"
 #include "stairs_symbols/escalera_prop.h"
 
 #include <gtest/gtest.h>
@@ -25,6 +27,11 @@ struct Escena {
             angulos.push_back(dialogo.StairPreview().Angle);
             dialogo.Aplicar();
         };
+    }
+    Punto centro(Clase clase, int indice) {
+        const auto caja = extensionDe(banco.dibujo(), clase, indice);
+        return {static_cast<float>(caja->Left + caja->Width / 2),
+                static_cast<float>(caja->Top + caja->Height / 2)};
     }
     void responde(Respuesta respuesta) { banco.plataforma.respuestas.push_back(respuesta); }
 };
@@ -169,4 +176,33 @@ TEST(AbreEscaleraProp, EditaLaQueExisteYLaQueFaltaNoAbreNada) {
     AbreEscaleraProp(escena.banco.sesion(), 1, 0);
     EXPECT_EQ(escena.banco.plataforma.dialogosDeEscalera, 2);
     EXPECT_EQ(escena.banco.dibujo().Escalera.contador, 2);
+}
+
+TEST(AbreEscaleraProp, LaAbreElDobleClicEnLaEscalera) {
+    Escena escena;
+    escena.banco.boton("Escalera");
+    escena.banco.plataforma.alAbrirEscalera = [](EscaleraProp& dialogo) {
+        dialogo.Angulo.escribir("30");
+        dialogo.PreviewChanges();
+        dialogo.Aplicar();
+    };
+    escena.banco.dobleClic(escena.centro(Clase::Escalera, 2));
+    EXPECT_EQ(escena.banco.plataforma.dialogosDeEscalera, 2);
+    EXPECT_EQ(escena.banco.dibujo().Escalera.en(2)->Angle, 30);
+    EXPECT_EQ(escena.banco.dibujo().Escalera.contador, 2);
+}
+
+TEST(ElectricoProp, LoAbreElDobleClicEnElSimboloCuandoHaTerminado) {
+    Escena escena;
+    escena.banco.crea(Clase::Electrico);
+    escena.banco.plataforma.alAbrirElectrico = [](ElectricoProp& dialogo) {
+        dialogo.Angulo.escribir("45");
+        dialogo.refrescar();
+        dialogo.Aplicar();
+    };
+    escena.banco.dobleClic(escena.centro(Clase::Electrico, 1));
+    EXPECT_EQ(escena.banco.plataforma.dialogosDeElectrico, 0);
+    escena.banco.bosquel.pasarTimer2();
+    EXPECT_EQ(escena.banco.plataforma.dialogosDeElectrico, 1);
+    EXPECT_EQ(escena.banco.dibujo().Electrico.en(1)->Angle, 45);
 }
