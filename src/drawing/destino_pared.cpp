@@ -1,6 +1,7 @@
 #include "drawing/destino_pared.h"
 
 #include "drawing/aberturas.h"
+#include "drawing/escaleras.h"
 #include "walls/esquina.h"
 #include "walls/grupos.h"
 #include "walls/paralelas.h"
@@ -95,13 +96,17 @@ void separar(Sesion& sesion, int indice) {
     if (preguntar(sesion, pregunta) == Respuesta::si) Desagrupar(sesion.dibujo, grupo);
 }
 
+void alinearEscalera(Sesion& sesion, int indice) {
+    AbreEscaleraProp(sesion, 0, sesion.dibujo.Pared.en(indice)->Angulo);
+}
+
 struct Destino {
     Modo modo;
     bool termina;  ///< the tool is over before the command runs
     void (*hacer)(Sesion&, int);
 };
 
-constexpr std::array<Destino, 8> destinos{{
+constexpr std::array<Destino, 9> destinos{{
     {Modo::Seleccion, true, situarParalela},
     {Modo::PrimeraPared, false, elegirPrimera<Modo::SegundaPared>},
     {Modo::SegundaPared, true, elegirSegunda<esquina>},
@@ -110,6 +115,7 @@ constexpr std::array<Destino, 8> destinos{{
     {Modo::Separar, true, separar},
     {Modo::Ventana, true, situarVentana},
     {Modo::Puerta, true, situarPuerta},
+    {Modo::Escalera, true, alinearEscalera},
 }};
 
 }  // namespace

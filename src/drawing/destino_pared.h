@@ -5,8 +5,8 @@
 namespace bosquel {
 
 /// The release on a wall in a mode in which the wall is the target of a command: parallel, corner, union,
-/// separate, a new window or door. The command runs, or waits for its second wall. False if the mode is none
-/// of theirs.
+/// separate, a new window or door, a new stair along it. The command runs, or waits for its second wall.
+/// False if the mode is none of theirs.
 bool elegirPared(Sesion& sesion, int indice);
 
 }  // namespace bosquel

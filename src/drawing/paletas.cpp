@@ -3,6 +3,7 @@
 #include "drawing/aberturas.h"
 #include "drawing/archivo.h"
 #include "drawing/creacion.h"
+#include "drawing/escaleras.h"
 #include "drawing/seleccion.h"
 
 namespace bosquel {
@@ -58,12 +59,14 @@ void pulsarOperacion(Sesion& sesion, int indice) {
 
 void pulsarTipo(Sesion& sesion, int indice) {
     CheckAutoSaving(sesion, true);
+    sesion.paleta = Paleta::ninguna;
+    sesion.vistaSucia = true;
     for (const PaletaDeTipo& fila : paletas)
         if (fila.boton == indice) {
             sesion.paleta = fila.paleta;
             sesion.Letrero = fila.Letrero;
         }
-    sesion.vistaSucia = true;
+    if (indice == datos(Clase::Escalera).boton) CrearEscalera(sesion);
     CheckAutoSaving(sesion, false);
 }
 

@@ -19,7 +19,7 @@ inline constexpr std::array<BotonDePaleta, 6> BttTipo{{{"Muebles", true},
                                                        {"Baño", true},
                                                        {"Cocina", true},
                                                        {"División", true},
-                                                       {"Escalera"},
+                                                       {"Escalera", true},
                                                        {"Eléctrico", true}}};
 
 inline constexpr std::array<BotonDePaleta, 6> BttMueble{{{"Mesa", true},
@@ -56,7 +56,8 @@ inline constexpr std::array<BotonDePaleta, 6> BttElectrico{{{"Luz", true},
 /// The relations between walls: starts the tool that the button stands for.
 void pulsarOperacion(Sesion& sesion, int indice);
 
-/// The palette selector: shows a palette and its title. The tool in hand goes on.
+/// The palette selector: shows a palette and its title; the tool in hand goes on. "Escalera" has no palette:
+/// it takes the one on view away and makes a stair.
 void pulsarTipo(Sesion& sesion, int indice);
 
 /// The palette of divisions: creates the element that the button stands for.

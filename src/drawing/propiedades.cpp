@@ -1,14 +1,22 @@
 #include "drawing/propiedades.h"
 
 #include "drawing/aberturas.h"
+#include "drawing/escaleras.h"
 #include "drawing/foco.h"
 #include "drawing/seleccion.h"
+#include "furnishing/mesa_prop.h"
+#include "furnishing/mueble_prop.h"
+#include "stairs_symbols/electrico_prop.h"
 
 namespace bosquel {
 
 namespace {
 
-void abrirMueble(Sesion&, Referencia) {}
+template <class Dialogo, class... Datos>
+void abrir(Sesion& sesion, Datos... datos) {
+    Dialogo dialogo(sesion.dibujo, datos...);
+    mostrar(sesion, dialogo);
+}
 
 }  // namespace
 
@@ -21,7 +29,12 @@ void abrirPropiedades(Sesion& sesion, Referencia cual) {
         default: break;
     }
     if (!situado(sesion.dibujo, cual)) return;
-    abrirMueble(sesion, cual);
+    if (cual.clase == Clase::Escalera) return AbreEscaleraProp(sesion, cual.indice, 0);
+    if (cual.clase == Clase::Electrico) return abrir<ElectricoProp>(sesion, cual.indice);
+    if (cual.clase == Clase::MblMesa)
+        abrir<MesaProp>(sesion, cual.indice);
+    else
+        abrir<MuebleProp>(sesion, cual.clase, cual.indice);
     if (sesion.foco == cual) enmarcar(sesion, cual);
 }
 

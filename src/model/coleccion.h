@@ -47,6 +47,13 @@ class Coleccion {
         return nuevo;
     }
 
+    /// The same where the counter is the last index given: it goes on first.
+    T* crearTrasContador() {
+        const bool hayIndice = contador >= 0 && contador < std::numeric_limits<std::int16_t>::max();
+        avanzar(contador);
+        return hayIndice ? &crear(contador) : nullptr;
+    }
+
     /// Leaves a hole; the model stays.
     void quitar(int indice) {
         if (indice > 0 && existe(indice)) huecos_[posicion(indice)].reset();

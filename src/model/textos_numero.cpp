@@ -55,15 +55,19 @@ std::string textoDeCifras(double valor, int cifras) {
     return signo(numero) + (esLlano ? llano(numero) : conExponente(numero));
 }
 
-std::string formato(double valor, int decimales) {
+std::string agrupar(std::string entera) {
+    const char grupo = separadorDeMillares();
+    for (std::size_t i = entera.size(); i > millar;)
+        entera.insert(i -= millar, 1, grupo);
+    return entera;
+}
+
+std::string formato(double valor, int decimales, bool agrupado = true) {
     const Cifras exactas = cifrasExactas(valor);
     const Cifras numero = recortar(exactas, exactas.punto + decimales);
     auto [entera, fraccion] = partir(numero);
     fraccion.resize(static_cast<std::size_t>(decimales), '0');
-    const char grupo = separadorDeMillares();
-    for (std::size_t i = entera.size(); i > millar;)
-        entera.insert(i -= millar, 1, grupo);
-    return signo(numero) + unir(entera, fraccion);
+    return signo(numero) + unir(agrupado ? agrupar(entera) : entera, fraccion);
 }
 
 std::string reemplazar(std::string_view texto, char viejo, char nuevo) {
@@ -100,6 +104,9 @@ std::string formatoMetros(double valor) {
 }
 std::string formatoEntero(double valor) {
     return formato(valor, 0);
+}
+std::string formatoSinGrupos(double valor) {
+    return formato(valor, 2, false);
 }
 
 std::string UnificarFormato(std::string_view texto) {

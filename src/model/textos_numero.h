@@ -40,6 +40,8 @@ std::optional<double> enteroTecleado(std::string_view texto);
 /// ".", an exact half rounded away from zero. What is no finite number gives the text of 0.
 std::string formatoMetros(double valor);
 std::string formatoEntero(double valor);
+/// "0.00": as the first of them, without grouping.
+std::string formatoSinGrupos(double valor);
 
 /// Every "," turned into ".", and every "." into the locale's separator.
 std::string UnificarFormato(std::string_view texto);

@@ -1,7 +1,9 @@
 #include "ui/plataforma_qt.h"
 
 #include "ui/colores_forma.h"
+#include "ui/electrico_forma.h"
 #include "ui/entrada_forma.h"
+#include "ui/escalera_forma.h"
 #include "ui/hoja_widget.h"
 #include "ui/mesa_forma.h"
 #include "ui/mueble_forma.h"
@@ -89,11 +91,15 @@ Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
 void PlataformaQt::mostrar(Colores& dialogo) {
     ColoresForma(dialogo, ventana_).exec();
 }
-void PlataformaQt::mostrar(ElectricoProp&) {}
+void PlataformaQt::mostrar(ElectricoProp& dialogo) {
+    ElectricoForma(dialogo, ventana_).exec();
+}
 void PlataformaQt::mostrar(Entrada& dialogo) {
     EntradaForma(dialogo).exec();
 }
-void PlataformaQt::mostrar(EscaleraProp&) {}
+void PlataformaQt::mostrar(EscaleraProp& dialogo) {
+    EscaleraForma(dialogo, ventana_).exec();
+}
 void PlataformaQt::mostrar(ImageCrop&) {}
 void PlataformaQt::mostrar(MesaProp& dialogo) {
     MesaForma(dialogo, ventana_).exec();

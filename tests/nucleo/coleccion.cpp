@@ -48,6 +48,22 @@ TEST(Coleccion, LaSiguienteSaleDelContador) {
     EXPECT_EQ(coleccion.contador, 3);
 }
 
+TEST(Coleccion, DondeElContadorEsElUltimoLaSiguienteVaDetras) {
+    Coleccion<std::string> coleccion;
+    for (const int indice : {2, 3}) {
+        const std::string* nueva = coleccion.crearTrasContador();
+        EXPECT_EQ(nueva, coleccion.en(indice));
+        EXPECT_EQ(coleccion.contador, indice);
+    }
+    EXPECT_FALSE(coleccion.existe(1));
+    for (const auto& [contador, despues] : {std::pair{-5, -4}, {-1, 0}, {32767, 32767}}) {
+        coleccion.contador = static_cast<std::int16_t>(contador);
+        EXPECT_EQ(coleccion.crearTrasContador(), nullptr);
+        EXPECT_EQ(coleccion.contador, despues);
+        EXPECT_EQ(coleccion.ultimo(), 3);
+    }
+}
+
 TEST(Coleccion, UnContadorSinIndiceNoCreaNada) {
     for (const auto& [contador, despues] : {std::pair{-5, -4}, {0, 1}, {32767, 32767}}) {
         Coleccion<std::string> coleccion;

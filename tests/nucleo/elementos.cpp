@@ -127,6 +127,55 @@ TEST_F(Elementos, LaUltimaPulsacionEnLaHojaDejaDefinirSinNadaQueHacer) {
     EXPECT_EQ(banco.plataforma.dialogosDeMueble, 0);
 }
 
+TEST_F(Elementos, DefinirAbreElDialogoDelElementoActual) {
+    banco.clic({1100, 2100});
+    banco.boton("Definir");
+    EXPECT_EQ(banco.plataforma.dialogosDeMueble, 1);
+}
+
+TEST_F(Elementos, ElDialogoDeUnaSillaEsperaAQueAcabeElDobleClic) {
+    banco.dobleClic({1100, 2100});
+    EXPECT_EQ(banco.plataforma.dialogosDeMueble, 0);
+    ASSERT_EQ(banco.plataforma.timer2, std::vector{true});
+    banco.bosquel.pasarTimer2();
+    EXPECT_EQ(banco.plataforma.timer2, (std::vector{true, false}));
+    EXPECT_EQ(banco.plataforma.dialogosDeMueble, 1);
+}
+
+TEST_F(Elementos, ElDialogoDeUnaCamaSeAbreEnElDobleClic) {
+    banco.crea(Clase::MblCama90);
+    ponerEn(*banco.dibujo().MblCama90.en(1), 5000, 5000);
+    banco.dobleClic({5100, 5100});
+    EXPECT_EQ(banco.plataforma.dialogosDeMueble, 1);
+    EXPECT_TRUE(banco.plataforma.timer2.empty());
+}
+
+TEST_F(Elementos, CadaClaseAbreSuDialogoComoLeToca) {
+    for (const DatosClase& fila : todasLasClases()) {
+        if (fila.clase > Clase::MblVertedero) continue;
+        SCOPED_TRACE(fila.nombre);
+        Banco otro;
+        otro.crea(fila.clase);
+        otro.mueve({200, 200});
+        const auto caja = recuadroDe(otro.dibujo(), fila.clase, 1);
+        ASSERT_TRUE(caja);
+        otro.dobleClic({static_cast<float>(caja->Left + caja->Width / 2),
+                        static_cast<float>(caja->Top + caja->Height / 2)});
+        const bool enElActo = fila.dobleClic == DobleClic::enElActo;
+        EXPECT_EQ(otro.plataforma.dialogosDeMesa + otro.plataforma.dialogosDeMueble, enElActo ? 1 : 0);
+        if (enElActo) continue;
+        otro.bosquel.pasarTimer2();
+        EXPECT_EQ(otro.plataforma.dialogosDeMesa, fila.clase == Clase::MblMesa ? 1 : 0);
+        EXPECT_EQ(otro.plataforma.dialogosDeMueble, fila.clase == Clase::MblMesa ? 0 : 1);
+    }
+}
+
+TEST_F(Elementos, ElDobleClicEnUnaEscaleraAbreSuDialogo) {
+    ponEscalera(2, 4000);
+    banco.dobleClic(enEscalera(2));
+    EXPECT_EQ(banco.plataforma.dialogosDeEscalera, 1);
+}
+
 TEST_F(Elementos, ElRelojNoAbreElDialogoDeOtraClase) {
     banco.crea(Clase::MblCama90);
     banco.bosquel.pasarTimer2();

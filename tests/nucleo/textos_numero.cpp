@@ -133,6 +133,17 @@ TEST(FormatoMetros, AgrupaLosMillaresSegunElIdioma) {
     EXPECT_EQ(formatoEntero(999), "999");
 }
 
+TEST(FormatoSinGrupos, TieneDosDecimalesYNoAgrupa) {
+    for (const auto& [nombre, texto] :
+         {std::pair{Idioma::espanol, "-1234567,89"}, {Idioma::ingles, "-1234567.89"}}) {
+        const Idioma idioma(nombre);
+        EXPECT_EQ(formatoSinGrupos(-1234567.891), texto);
+    }
+    const Idioma idioma(Idioma::espanol);
+    EXPECT_EQ(formatoSinGrupos(0), "0,00");
+    EXPECT_EQ(formatoSinGrupos(0.125), "0,13");
+}
+
 TEST(FormatoMetros, SoloUnaMitadExactaSeAlejaDelCero) {
     const Idioma idioma(Idioma::espanol);
     EXPECT_EQ(formatoMetros(0.125), "0,13");
