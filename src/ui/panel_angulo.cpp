@@ -71,6 +71,7 @@ const QStringList& PanelAngulo::orden() {
 QPushButton* PanelAngulo::giro(int indice, const QString& rotulo, const QString& leido) {
     auto* boton = nombrar(new QPushButton(rotulo), indice == 0 ? "cmd90Plus_0" : "cmd90Plus_1");
     boton->setAccessibleName(leido);
+    boton->setAutoDefault(false);  // Enter applies, wherever the focus is
     boton->setFixedWidth(boton->fontMetrics().horizontalAdvance(rotulo) + 2 * holgura);
     connect(boton, &QPushButton::clicked, this, [this, indice] {
         angulo_.cmd90Plus(indice);

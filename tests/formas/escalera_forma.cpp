@@ -395,13 +395,19 @@ TEST_F(EscaleraFormaCerrar, AplicarHaceLaEscaleraYConLaMarcaElModelo) {
     EXPECT_EQ(dibujo.Escalera.contador, 2);
 }
 
-TEST_F(EscaleraFormaCerrar, EnterAplica) {
-    abrir();
-    teclear(*forma, "txtHuella", ",3");
-    QTest::keyClick(&de("txtHuella"), Qt::Key_Return);
-    EXPECT_FALSE(forma->isVisible());
-    ASSERT_TRUE(dibujo.Escalera.existe(2));
-    EXPECT_EQ(escalera().WidthSteps, 300);
+TEST_F(EscaleraFormaCerrar, EnterAplicaEsteDondeEsteElFoco) {
+    for (const char* nombre : {"txtHuella", "cmd90Plus_1", "chkBarandilla_1", "optTramos_1", "Dial"}) {
+        abrir();
+        teclear(*forma, "txtHuella", ",3");
+        de(nombre).setFocus();
+        QTest::keyClick(&de(nombre), Qt::Key_Return);
+        EXPECT_FALSE(forma->isVisible()) << nombre;
+        const int indice = dibujo.Escalera.contador;
+        ASSERT_TRUE(dibujo.Escalera.existe(indice));
+        EXPECT_EQ(dibujo.Escalera.en(indice)->WidthSteps, 300);
+        EXPECT_EQ(dibujo.Escalera.en(indice)->Angle, 0);
+    }
+    EXPECT_EQ(dibujo.Escalera.contador, 6);
 }
 
 TEST_F(EscaleraFormaCerrar, CancelarEscapeYLaCajaDeCierreNoHacenNinguna) {
