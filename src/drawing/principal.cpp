@@ -1,6 +1,7 @@
 #include "drawing/principal.h"
 
 #include "drawing/archivo.h"
+#include "drawing/enviar.h"
 #include "drawing/hoja.h"
 #include "drawing/opciones.h"
 #include "drawing/seleccion.h"
@@ -53,9 +54,9 @@ void ejecutar(Sesion& sesion, Principal boton) {
         case Principal::Definir: return MostrarPropiedades(sesion);
         case Principal::Opciones: return opciones(sesion);
         case Principal::Eliminar: return EliminarElemento(sesion, false);
+        case Principal::Imprimir: return EnviarA(sesion);
         case Principal::Salir: return salir(sesion);
         case Principal::Ayuda:
-        case Principal::Imprimir:
         case Principal::Colores: return;
     }
 }

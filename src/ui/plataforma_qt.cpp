@@ -2,6 +2,7 @@
 
 #include "ui/entrada_forma.h"
 #include "ui/hoja_widget.h"
+#include "ui/image_crop_forma.h"
 #include "ui/opciones_forma.h"
 #include "ui/paralelas_forma.h"
 #include "ui/pared_prop_forma.h"
@@ -51,6 +52,12 @@ std::vector<BotonDeMensaje> botonesDe(Botones botones) {
     return {};
 }
 
+/// What a box belongs to: the dialog that it comes out of, or the main window.
+QWidget* duenoDe(QWidget* ventana) {
+    QWidget* dialogo = QApplication::activeModalWidget();
+    return dialogo ? dialogo : ventana;
+}
+
 /// A timer that runs goes on with the time that it has left.
 void activarReloj(QTimer& reloj, bool activo) {
     if (activo && !reloj.isActive()) reloj.start();
@@ -60,7 +67,7 @@ void activarReloj(QTimer& reloj, bool activo) {
 }  // namespace
 
 Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
-    QMessageBox caja(ventana_);
+    QMessageBox caja(duenoDe(ventana_));
     caja.setWindowTitle(aQString(mensaje.titulo));
     caja.setTextFormat(Qt::PlainText);
     // Yes, no and cancel from left to right, whatever the desktop's order.
@@ -83,7 +90,9 @@ void PlataformaQt::mostrar(Entrada& dialogo) {
     EntradaForma(dialogo).exec();
 }
 void PlataformaQt::mostrar(EscaleraProp&) {}
-void PlataformaQt::mostrar(ImageCrop&) {}
+void PlataformaQt::mostrar(ImageCrop& dialogo) {
+    ImageCropForma(dialogo, ventana_).exec();
+}
 void PlataformaQt::mostrar(MesaProp&) {}
 void PlataformaQt::mostrar(MuebleProp&) {}
 void PlataformaQt::mostrar(Opciones& dialogo) {
@@ -104,8 +113,11 @@ void PlataformaQt::mostrar(VentanaProp& dialogo) {
 
 std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionArchivo& peticion) {
     const bool guardar = peticion.modo == PeticionArchivo::Modo::guardar;
-    QFileDialog dialogo(ventana_, guardar ? "Guardar dibujo" : "Abrir dibujo",
-                        QString::fromStdString(peticion.carpeta.string()), aQString(peticion.filtro));
+    const QString titulo = !peticion.titulo.empty() ? aQString(peticion.titulo)
+                           : guardar                ? "Guardar dibujo"
+                                                    : "Abrir dibujo";
+    QFileDialog dialogo(duenoDe(ventana_), titulo, QString::fromStdString(peticion.carpeta.string()),
+                        aQString(peticion.filtro));
     dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialogo.setAcceptMode(guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogo.setFileMode(QFileDialog::AnyFile);

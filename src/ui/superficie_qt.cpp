@@ -119,7 +119,8 @@ void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
 }
 
 void SuperficieQt::Print(std::string_view texto) {
-    const QFont letra = fuenteTexto(puntos_, escala_);
+    QFont letra = fuenteTexto(puntos_, escala_);
+    if (!pintor_.testRenderHint(QPainter::TextAntialiasing)) letra.setStyleStrategy(QFont::NoAntialias);
     const QPointF esquina = enPixeles(texto_.x(), texto_.y());
     if (!cerca(esquina)) return;
     pintor_.setFont(letra);
