@@ -93,10 +93,13 @@ void LienzoQt::vistaPrevia(const Papel& papel) {
 void LienzoQt::guardar(const std::filesystem::path& ruta, Profundidad profundidad) {
     const bool vacio = RecorteSalida_.isNull();
     const QImage color = vacio ? papelBlanco(1, 1) : RecorteSalida_;
-    const QByteArray bytes =
-        codificar(profundidad == Profundidad::dosTonos ? enDosTonos(color) : color, "BMP");
+    const QImage imagen = profundidad == Profundidad::dosTonos ? enDosTonos(color) : color;
     QFile fichero(ruta);
-    if (fichero.open(QIODevice::WriteOnly)) fichero.write(vacio ? sinPixeles(bytes) : bytes);
+    if (!fichero.open(QIODevice::WriteOnly)) return;
+    if (vacio)
+        fichero.write(sinPixeles(codificar(imagen, "BMP")));
+    else
+        imagen.save(&fichero, "BMP");
 }
 
 }  // namespace bosquel
