@@ -63,7 +63,7 @@ void HojaSalidaWidget::situar() {
 }
 
 void HojaSalidaWidget::repetirPuntero() {
-    if (botones_ == Qt::NoButton) return;
+    if (botones_ == Qt::NoButton || !isVisible()) return;
     QCoreApplication::postEvent(this, new QMouseEvent(QEvent::MouseMove, mapFromGlobal(puntero_), puntero_,
                                                       Qt::NoButton, botones_, Qt::NoModifier));
 }

@@ -46,7 +46,9 @@ VistaPrevia::VistaPrevia(QImage imagen, const Papel& papel, QWidget* padre)
     prepararPagina(impresora_, papel_);
     vista_ = new QPrintPreviewWidget(&impresora_, this);
     vista_->setObjectName("Image1");
-    vista_->findChild<QGraphicsView*>()->setAccessibleName("Página");
+    auto* pagina = vista_->findChild<QGraphicsView*>();
+    for (QWidget* parte : {static_cast<QWidget*>(pagina), pagina->viewport()})
+        parte->setAccessibleName("Página");
     connect(vista_, &QPrintPreviewWidget::paintRequested, this,
             [this](QPrinter* impresora) { pintarPagina(*impresora, papel_, imagen_, densidad_); });
     connect(vista_, &QPrintPreviewWidget::previewChanged, this, &VistaPrevia::mostrarZoom);

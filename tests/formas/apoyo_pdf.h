@@ -3,7 +3,9 @@
 #include <QImage>
 #include <QProcess>
 #include <QString>
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <iterator>
 
 namespace bosquel::apoyo {
 
@@ -15,12 +17,20 @@ inline QImage paginaDe(const QString& pdf, int porPulgada) {
     return QImage(pdf + ".png").convertToFormat(QImage::Format_RGB32);
 }
 
-/// The smallest rectangle that holds everything dark.
+/// The smallest rectangle that holds everything dark of a picture of 32 bits.
 inline QRect tintaDe(const QImage& imagen) {
     QRect caja;
-    for (int y = 0; y < imagen.height(); ++y)
-        for (int x = 0; x < imagen.width(); ++x)
-            if (qGray(imagen.pixel(x, y)) < 128) caja |= QRect(x, y, 1, 1);
+    for (int y = 0; y < imagen.height(); ++y) {
+        const auto* fila = reinterpret_cast<const QRgb*>(imagen.constScanLine(y));
+        const auto* fin = fila + imagen.width();
+        const auto oscuro = [](QRgb pixel) { return qGray(pixel) < 128; };
+        const auto* primero = std::find_if(fila, fin, oscuro);
+        if (primero == fin) continue;
+        const auto* ultimo =
+            std::find_if(std::reverse_iterator(fin), std::reverse_iterator(primero), oscuro).base();
+        caja |= QRect(QPoint(static_cast<int>(primero - fila), y),
+                      QPoint(static_cast<int>(ultimo - fila) - 1, y));
+    }
     return caja;
 }
 
