@@ -120,7 +120,11 @@ void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
 
 void SuperficieQt::Print(std::string_view texto) {
     QFont letra = fuenteTexto(puntos_, escala_);
-    if (!pintor_.testRenderHint(QPainter::TextAntialiasing)) letra.setStyleStrategy(QFont::NoAntialias);
+    // On a picture without smoothing, nothing of the letters is left to the settings of the screen.
+    if (!pintor_.testRenderHint(QPainter::TextAntialiasing)) {
+        letra.setStyleStrategy(QFont::NoAntialias);
+        letra.setHintingPreference(QFont::PreferFullHinting);
+    }
     const QPointF esquina = enPixeles(texto_.x(), texto_.y());
     if (!cerca(esquina)) return;
     pintor_.setFont(letra);
