@@ -24,8 +24,9 @@ paquetesPruebas=(
     procps
     xvfb
     xdotool
-    x11-utils   # xwininfo, xprop
-    imagemagick # import, compare
+    x11-utils     # xwininfo, xprop
+    imagemagick   # import, compare
+    poppler-utils # pdftoppm
 )
 
 # shellcheck disable=SC2034

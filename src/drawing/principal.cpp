@@ -2,6 +2,7 @@
 
 #include "appearance/colores.h"
 #include "drawing/archivo.h"
+#include "drawing/enviar.h"
 #include "drawing/foco.h"
 #include "drawing/hoja.h"
 #include "drawing/opciones.h"
@@ -62,10 +63,10 @@ void ejecutar(Sesion& sesion, Principal boton) {
         case Principal::Definir: return MostrarPropiedades(sesion);
         case Principal::Opciones: return opciones(sesion);
         case Principal::Eliminar: return EliminarElemento(sesion, false);
+        case Principal::Imprimir: return EnviarA(sesion);
         case Principal::Salir: return salir(sesion);
         case Principal::Colores: return colores(sesion);
-        case Principal::Ayuda:
-        case Principal::Imprimir: return;
+        case Principal::Ayuda: return;
     }
 }
 

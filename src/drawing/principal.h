@@ -36,7 +36,7 @@ inline constexpr std::array<BotonPrincipal, 11> BttPrincipal{{{"Nuevo", true},
                                                               {"Definir", true},
                                                               {"Opciones", true},
                                                               {"Eliminar", true},
-                                                              {"Imprimir", false},
+                                                              {"Imprimir", true},
                                                               {"Salir", true},
                                                               {"Colores", true}}};
 

@@ -43,6 +43,7 @@ struct PeticionArchivo {
     Modo modo = Modo::abrir;
     std::string filtro;  ///< "Dibujos Bosquel Rapiz(*.bqr)"
     std::filesystem::path carpeta;
+    std::string titulo = {};  ///< empty: that of the dialogs of drawings
 };
 
 /// A box that asks for a line of text.

@@ -5,6 +5,7 @@
 #include "ui/entrada_forma.h"
 #include "ui/escalera_forma.h"
 #include "ui/hoja_widget.h"
+#include "ui/image_crop_forma.h"
 #include "ui/mesa_forma.h"
 #include "ui/mueble_forma.h"
 #include "ui/opciones_forma.h"
@@ -56,8 +57,8 @@ std::vector<BotonDeMensaje> botonesDe(Botones botones) {
     return {};
 }
 
-/// A box belongs to the dialog that asks for it; to the main window if none does.
-QWidget* duenoDeCaja(QWidget* ventana) {
+/// What a box belongs to: the dialog that it comes out of, or the main window.
+QWidget* duenoDe(QWidget* ventana) {
     QWidget* dialogo = QApplication::activeModalWidget();
     return dialogo ? dialogo : ventana;
 }
@@ -71,7 +72,7 @@ void activarReloj(QTimer& reloj, bool activo) {
 }  // namespace
 
 Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
-    QMessageBox caja(duenoDeCaja(ventana_));
+    QMessageBox caja(duenoDe(ventana_));
     caja.setWindowTitle(aQString(mensaje.titulo));
     caja.setTextFormat(Qt::PlainText);
     // Yes, no and cancel from left to right, whatever the desktop's order.
@@ -100,7 +101,9 @@ void PlataformaQt::mostrar(Entrada& dialogo) {
 void PlataformaQt::mostrar(EscaleraProp& dialogo) {
     EscaleraForma(dialogo, ventana_).exec();
 }
-void PlataformaQt::mostrar(ImageCrop&) {}
+void PlataformaQt::mostrar(ImageCrop& dialogo) {
+    ImageCropForma(dialogo, ventana_).exec();
+}
 void PlataformaQt::mostrar(MesaProp& dialogo) {
     MesaForma(dialogo, ventana_).exec();
 }
@@ -125,8 +128,11 @@ void PlataformaQt::mostrar(VentanaProp& dialogo) {
 
 std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionArchivo& peticion) {
     const bool guardar = peticion.modo == PeticionArchivo::Modo::guardar;
-    QFileDialog dialogo(ventana_, guardar ? "Guardar dibujo" : "Abrir dibujo",
-                        QString::fromStdString(peticion.carpeta.string()), aQString(peticion.filtro));
+    const QString titulo = !peticion.titulo.empty() ? aQString(peticion.titulo)
+                           : guardar                ? "Guardar dibujo"
+                                                    : "Abrir dibujo";
+    QFileDialog dialogo(duenoDe(ventana_), titulo, QString::fromStdString(peticion.carpeta.string()),
+                        aQString(peticion.filtro));
     dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialogo.setAcceptMode(guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogo.setFileMode(QFileDialog::AnyFile);
@@ -135,7 +141,7 @@ std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionA
 }
 
 std::string PlataformaQt::pedirTexto(const PeticionTexto& peticion) {
-    QInputDialog caja(duenoDeCaja(ventana_));
+    QInputDialog caja(duenoDe(ventana_));
     caja.setWindowTitle(aQString(peticion.titulo));
     caja.setLabelText(aQString(peticion.texto));
     caja.setOkButtonText("&Aceptar");

@@ -128,7 +128,12 @@ void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
 }
 
 void SuperficieQt::Print(std::string_view texto) {
-    const QFont letra = fuenteTexto(puntos_, escala_);
+    QFont letra = fuenteTexto(puntos_, escala_);
+    // On a picture without smoothing, nothing of the letters is left to the settings of the screen.
+    if (!pintor_.testRenderHint(QPainter::TextAntialiasing)) {
+        letra.setStyleStrategy(QFont::NoAntialias);
+        letra.setHintingPreference(QFont::PreferFullHinting);
+    }
     const QPointF esquina = enPixeles(texto_.x(), texto_.y());
     if (!cerca(esquina)) return;
     pintor_.setFont(letra);
