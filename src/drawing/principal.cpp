@@ -51,12 +51,12 @@ void ejecutar(Sesion& sesion, Principal boton) {
         case Principal::Nuevo: return nuevo(sesion);
         case Principal::Abrir: return AbrirDibujo(sesion);
         case Principal::Guardar: return GuardarDibujo(sesion, {});
+        case Principal::Ayuda: return sesion.plataforma.mostrarAyuda(sesion.carpeta / "Bosquel.chm");
         case Principal::Zoom: return EjecutarZOOM(sesion);
         case Principal::Definir: return MostrarPropiedades(sesion);
         case Principal::Opciones: return opciones(sesion);
         case Principal::Eliminar: return EliminarElemento(sesion, false);
         case Principal::Salir: return salir(sesion);
-        case Principal::Ayuda:
         case Principal::Imprimir:
         case Principal::Colores: return;
     }

@@ -15,4 +15,19 @@ std::filesystem::path carpetaDelPrograma() {
     return delUsuario.toStdString();
 }
 
+std::filesystem::path carpetaDelEjecutable() {
+    return QCoreApplication::applicationDirPath().toStdString();
+}
+
+std::filesystem::path sitioDelManual(const std::filesystem::path& pedido,
+                                     const std::filesystem::path& ejecutable) {
+    const std::filesystem::path nombre = pedido.filename();
+    const std::filesystem::path instalado = ejecutable.parent_path() / "share/bosquel-rapiz" / nombre;
+    for (const auto& sitio : {pedido, ejecutable / nombre, instalado}) {
+        std::error_code error;
+        if (std::filesystem::is_regular_file(sitio, error)) return sitio;
+    }
+    return pedido;
+}
+
 }  // namespace bosquel
