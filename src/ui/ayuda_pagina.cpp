@@ -36,6 +36,8 @@ PaginaAyuda::PaginaAyuda(ArchivoAyuda archivo, QWidget* padre)
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(margen);
     setLineWrapMode(QTextEdit::FixedPixelWidth);
+    // Always there, or the width of the page would depend on its height.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     escalar(porcentaje_);
 }
 
@@ -58,39 +60,55 @@ void PaginaAyuda::escalarNormal() {
 }
 
 void PaginaAyuda::escalar(int porcentaje) {
+    const int primero = primerCaracter();
     porcentaje_ = porcentaje;
     QFont fuente = font();
     fuente.setPointSizeF(puntos_ * porcentaje / 100);
     setFont(fuente);
     ajustarColumna();
-    // The pictures are kept by the document at the size that they were asked for.
-    const QScrollBar& barra = *verticalScrollBar();
-    const double altura = barra.maximum() > 0 ? static_cast<double>(barra.value()) / barra.maximum() : 0;
-    reload();
-    verticalScrollBar()->setValue(static_cast<int>(altura * verticalScrollBar()->maximum()));
+    reponer(primero);
     emit escalada(porcentaje_);
 }
 
 void PaginaAyuda::resaltar(const QStringList& palabras) {
+    resaltadas_ = palabras;
+    if (const int primera = marcar(); primera >= 0) {
+        QTextCursor cursor(document());
+        cursor.setPosition(primera);
+        setTextCursor(cursor);
+    }
+}
+
+int PaginaAyuda::marcar() {
     const QString texto = plegarAyuda(document()->toPlainText());
     QTextCharFormat formato;
     formato.setBackground(palette().highlight());
     formato.setForeground(palette().highlightedText());
     QList<ExtraSelection> marcas;
-    for (const QString& palabra : palabras)
+    int primera = -1;
+    for (const QString& palabra : resaltadas_)
         for (const qsizetype sitio : sitiosAyuda(texto, palabra)) {
             QTextCursor cursor(document());
             cursor.setPosition(static_cast<int>(sitio));
             cursor.setPosition(static_cast<int>(sitio + palabra.size()), QTextCursor::KeepAnchor);
             marcas += {cursor, formato};
+            if (primera < 0 || cursor.anchor() < primera) primera = cursor.anchor();
         }
     setExtraSelections(marcas);
-    const auto primera = std::min_element(marcas.begin(), marcas.end(), [](const auto& a, const auto& b) {
-        return a.cursor.position() < b.cursor.position();
-    });
-    if (primera == marcas.end()) return;
-    primera->cursor.clearSelection();
-    setTextCursor(primera->cursor);
+    return primera;
+}
+
+int PaginaAyuda::primerCaracter() const {
+    return cursorForPosition({0, 0}).position();
+}
+
+/// The document keeps the pictures at the size that they were asked for.
+void PaginaAyuda::reponer(int primero) {
+    reload();
+    marcar();
+    QTextCursor arriba(document());
+    arriba.setPosition(std::min(primero, document()->characterCount() - 1));
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(arriba).top());
 }
 
 QVariant PaginaAyuda::loadResource(int tipo, const QUrl& nombre) {
@@ -100,25 +118,29 @@ QVariant PaginaAyuda::loadResource(int tipo, const QUrl& nombre) {
     return textoAyuda(*bytes);
 }
 
-/// Scaled here, smoothly and to the pixels of the screen: the document would do it roughly.
+/// No wider than the text. Scaled here, smoothly and to the pixels of the screen: the document would do it
+/// roughly.
 QImage PaginaAyuda::imagen(const QByteArray& bytes) const {
     const QImage leida = QImage::fromData(bytes);
     if (leida.isNull()) return leida;
-    const double pixeles = devicePixelRatioF() * porcentaje_ / 100 * puntosPorMetro /
-                           std::clamp(leida.dotsPerMeterX(), puntosPorMetro, 4 * puntosPorMetro);
-    QImage escalada =
-        leida.scaledToWidth(std::max(1, qRound(leida.width() * pixeles)), Qt::SmoothTransformation);
+    const int finura = std::clamp(leida.dotsPerMeterX(), puntosPorMetro, 4 * puntosPorMetro);
+    const double natural = static_cast<double>(leida.width()) * porcentaje_ / 100 * puntosPorMetro / finura;
+    const double ancho = std::clamp<double>(natural, 1, std::max(1, lineWrapColumnOrWidth() - 2 * margen));
+    QImage escalada = leida.scaledToWidth(qRound(ancho * devicePixelRatioF()), Qt::SmoothTransformation);
     escalada.setDevicePixelRatio(devicePixelRatioF());
     return escalada;
 }
 
 void PaginaAyuda::doSetSource(const QUrl& url, QTextDocument::ResourceType tipo) {
-    if (archivo_.contains(camino(url))) QTextBrowser::doSetSource(url, tipo);
+    if (!archivo_.contains(camino(url))) return;
+    if (camino(url) != camino(source())) resaltadas_.clear();
+    QTextBrowser::doSetSource(url, tipo);
 }
 
 void PaginaAyuda::resizeEvent(QResizeEvent* suceso) {
-    ajustarColumna();
+    const int primero = primerCaracter();
     QTextBrowser::resizeEvent(suceso);
+    if (ajustarColumna()) reponer(primero);
 }
 
 /// The base class would enlarge the text alone.
@@ -129,8 +151,10 @@ void PaginaAyuda::wheelEvent(QWheelEvent* suceso) {
     suceso->accept();
 }
 
-void PaginaAyuda::ajustarColumna() {
+bool PaginaAyuda::ajustarColumna() {
+    const int antes = lineWrapColumnOrWidth();
     setLineWrapColumnOrWidth(std::min(viewport()->width(), columna * porcentaje_ / 100));
+    return lineWrapColumnOrWidth() != antes;
 }
 
 }  // namespace bosquel

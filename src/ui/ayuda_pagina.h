@@ -39,9 +39,17 @@ class PaginaAyuda final : public QTextBrowser {
   private:
     void escalar(int porcentaje);
     QImage imagen(const QByteArray& bytes) const;
-    void ajustarColumna();
+    /// Whether the lines are of another width now.
+    bool ajustarColumna();
+    /// The first character on view, from the beginning of the page.
+    int primerCaracter() const;
+    /// Reads the page anew, with this character in the line on top.
+    void reponer(int primero);
+    /// Answers where the first of the words stands, -1 without any.
+    int marcar();
 
     ArchivoAyuda archivo_;
+    QStringList resaltadas_;
     qreal puntos_;
     int porcentaje_;
 };

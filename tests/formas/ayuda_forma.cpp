@@ -7,9 +7,11 @@
 
 #include <QBuffer>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTextBrowser>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <algorithm>
 
 using namespace bosquel;
 
@@ -46,7 +48,10 @@ ArchivoAyuda archivoDePrueba() {
                                          <a href="falta.html">falta</a></p>)")},
             {"dos.html", pagina("Dos", R"(<p><img src="imagenes/rojo.png"></p><p>Un muro.</p>
                                          <h2><a name="sitio">Sitio</a></h2><p>Otro muro.</p>)")},
+            {"larga.html", pagina("Larga", QByteArray("<p>Línea.</p>").repeated(200).constData())},
+            {"ancha.html", pagina("Ancha", R"(<p><img src="imagenes/ancha.png"></p>)")},
             {"imagenes/rojo.png", cuadro({200, 100}, 7560)},
+            {"imagenes/ancha.png", cuadro({3000, 100}, 3780)},
             {"a.hhc",
              "<ul>" + linea("Primera", "uno.html") + "<ul>" + linea("Segunda", "dos.html") + "</ul></ul>"},
             {"a.hhk", "<ul>" + linea("bañera", "uno.html") + linea("sitio", "dos.html#sitio") + "</ul>"}};
@@ -180,7 +185,7 @@ TEST_F(AyudaFormaPrueba, UnHallazgoMuestraSuPaginaConLasPalabrasMarcadas) {
     ASSERT_EQ(marcas.size(), 2);
     for (const auto& marca : marcas)
         EXPECT_EQ(marca.cursor.selectedText(), "muro");
-    EXPECT_EQ(pagina().textCursor().position(), marcas[0].cursor.selectionEnd());
+    EXPECT_EQ(pagina().textCursor().position(), marcas[0].cursor.selectionStart());
 }
 
 TEST_F(AyudaFormaPrueba, LaEscaleraDeTamanosSeSubeYSeBaja) {
@@ -201,6 +206,35 @@ TEST_F(AyudaFormaPrueba, LaEscaleraDeTamanosSeSubeYSeBaja) {
     EXPECT_EQ(control<QToolButton>("BttTamano").text(), "100 %");
     EXPECT_EQ(tamanoDeImagen(), imagen);
     EXPECT_EQ(fuente(), "chm:/uno.html");
+}
+
+TEST_F(AyudaFormaPrueba, AlCambiarDeTamanoLaPaginaSigueMarcadaYEnSuSitio) {
+    forma.resize(700, 400);
+    pagina().setSource(QUrl("chm:/larga.html"));
+    QScrollBar& barra = *pagina().verticalScrollBar();
+    barra.setValue(barra.maximum() / 2);
+    const int arriba = pagina().cursorForPosition({0, 0}).blockNumber();
+    EXPECT_GT(arriba, 50);
+    pulsar("BttAumentar");
+    EXPECT_NEAR(pagina().cursorForPosition({0, 0}).blockNumber(), arriba, 1);
+    buscar("muro");
+    QTest::keyClick(&control("Busqueda"), Qt::Key_Return);
+    pulsar("BttReducir");
+    EXPECT_FALSE(pagina().extraSelections().isEmpty());
+    pagina().setSource(QUrl("chm:/uno.html"));
+    pulsar("BttReducir");
+    EXPECT_TRUE(pagina().extraSelections().isEmpty()) << "what was looked for was the other page's";
+}
+
+TEST_F(AyudaFormaPrueba, UnaImagenNoEsMasAnchaQueElTexto) {
+    pagina().setSource(QUrl("chm:/ancha.html"));
+    for (const int ancho : {1000, 600}) {
+        forma.resize(ancho, 500);
+        QApplication::processEvents();
+        EXPECT_EQ(pagina().horizontalScrollBar()->maximum(), 0) << ancho;
+        EXPECT_GT(pagina().document()->idealWidth(), 0.9 * std::min(720, pagina().viewport()->width()))
+            << ancho;
+    }
 }
 
 TEST_F(AyudaFormaPrueba, EscapeDejaPrimeroLaBusquedaYDespuesLaVentana) {
