@@ -9,6 +9,8 @@ paquetesPrograma=(
     ninja-build
     qt6-base-dev          # Widgets, Test and the platform plugins
     qt6-svg-dev           # the icons
+    libchm-dev            # reads the manual
+    fp-utils              # chmcmd, which compiles it
     qt6-translations-l10n # Qt's own texts in Spanish
     locales               # localedef, for es_ES.UTF-8
     fonts-dejavu-core

@@ -59,6 +59,7 @@ void ejecutar(Sesion& sesion, Principal boton) {
         case Principal::Nuevo: return nuevo(sesion);
         case Principal::Abrir: return AbrirDibujo(sesion);
         case Principal::Guardar: return GuardarDibujo(sesion, {});
+        case Principal::Ayuda: return sesion.plataforma.mostrarAyuda(sesion.carpeta / "Bosquel.chm");
         case Principal::Zoom: return EjecutarZOOM(sesion);
         case Principal::Definir: return MostrarPropiedades(sesion);
         case Principal::Opciones: return opciones(sesion);
@@ -66,7 +67,6 @@ void ejecutar(Sesion& sesion, Principal boton) {
         case Principal::Imprimir: return EnviarA(sesion);
         case Principal::Salir: return salir(sesion);
         case Principal::Colores: return colores(sesion);
-        case Principal::Ayuda: return;
     }
 }
 

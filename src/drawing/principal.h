@@ -31,7 +31,7 @@ struct BotonPrincipal {
 inline constexpr std::array<BotonPrincipal, 11> BttPrincipal{{{"Nuevo", true},
                                                               {"Abrir", true},
                                                               {"Guardar", true},
-                                                              {"Ayuda", false},
+                                                              {"Ayuda", true},
                                                               {"Zoom", true},
                                                               {"Definir", true},
                                                               {"Opciones", true},

@@ -102,6 +102,10 @@ class Plataforma {
     virtual void ponerRelojDeArena(bool puesto) = 0;
     virtual void ponerTitulo(const std::string& titulo) = 0;
 
+    /// Opens the manual in a window of its own and comes back at once; the one that is open already comes to
+    /// the front. A file that is missing or damaged shows nothing.
+    virtual void mostrarAyuda(const std::filesystem::path& manual) = 0;
+
     /// The sheet or the ruler moved or changed in size, a scroll bar, a button's border, the palette or the
     /// mode changed: whatever stands around the drawing is to be shown anew.
     virtual void vistaCambiada() = 0;

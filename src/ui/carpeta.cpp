@@ -42,4 +42,10 @@ fs::path carpetaDeDatos() {
         .toStdString();
 }
 
+fs::path sitioDelManual(const fs::path& pedido, const fs::path& datos) {
+    std::error_code error;
+    const fs::path propio = datos / pedido.filename();
+    return !fs::is_regular_file(pedido, error) && fs::is_regular_file(propio, error) ? propio : pedido;
+}
+
 }  // namespace bosquel

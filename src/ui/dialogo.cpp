@@ -24,7 +24,8 @@ Dialogo::Dialogo(const char* nombre, const QString& titulo, const Botones& boton
     setWindowTitle(titulo);
     setAccessibleName(titulo);
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    setModal(true);
+    // Of its owner alone: the help can be read while a dialog is open.
+    setWindowModality(Qt::WindowModal);
 
     auto* todo = new QVBoxLayout(this);
     todo->setContentsMargins(margen, margen, margen, margen);

@@ -1,5 +1,8 @@
 #include "ui/plataforma_qt.h"
 
+#include "ui/ayuda_forma.h"
+#include "ui/ayuda_sumario.h"
+#include "ui/carpeta.h"
 #include "ui/colores_forma.h"
 #include "ui/electrico_forma.h"
 #include "ui/entrada_forma.h"
@@ -70,6 +73,12 @@ void activarReloj(QTimer& reloj, bool activo) {
 }
 
 }  // namespace
+
+PlataformaQt::PlataformaQt() = default;
+
+PlataformaQt::~PlataformaQt() {
+    delete ayuda_;
+}
 
 Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
     QMessageBox caja(duenoDe(ventana_));
@@ -182,6 +191,15 @@ void PlataformaQt::ponerRelojDeArena(bool puesto) {
 
 void PlataformaQt::ponerTitulo(const std::string& titulo) {
     if (ventana_) ventana_->setWindowTitle(aQString(titulo));
+}
+
+void PlataformaQt::mostrarAyuda(const std::filesystem::path& manual) {
+    if (!ayuda_) {
+        const ArchivoAyuda archivo = leerArchivoAyuda(sitioDelManual(manual));
+        if (paginasAyuda(archivo).isEmpty()) return;
+        ayuda_ = new AyudaForma(archivo);
+    }
+    ayuda_->traerAlFrente();
 }
 
 void PlataformaQt::vistaCambiada() {

@@ -2,13 +2,19 @@
 
 #include "platform/plataforma.h"
 
+#include <QPointer>
+
 namespace bosquel {
 
+class AyudaForma;
 class VentanaBosquel;
 
 /// The seam to the outside, with Qt behind it.
 class PlataformaQt final : public Plataforma {
   public:
+    PlataformaQt();
+    ~PlataformaQt() override;
+
     /// The window that messages and dialogs belong to, and in which the view is shown; none before it exists.
     void ponerVentana(VentanaBosquel* ventana) { ventana_ = ventana; }
 
@@ -33,12 +39,14 @@ class PlataformaQt final : public Plataforma {
     void ponerCursor(Cursor cursor) override;
     void ponerRelojDeArena(bool puesto) override;
     void ponerTitulo(const std::string& titulo) override;
+    void mostrarAyuda(const std::filesystem::path& manual) override;
     void vistaCambiada() override;
     void repintar(const ZonaSucia& zona, const ZonaSucia& paso) override;
     void terminar() override;
 
   private:
     VentanaBosquel* ventana_ = nullptr;
+    QPointer<AyudaForma> ayuda_;  ///< none while the help is closed
 };
 
 }  // namespace bosquel

@@ -38,6 +38,7 @@ class PlataformaFalsa : public Plataforma {
     std::vector<PeticionTexto> preguntasDeTexto;
     std::vector<Cursor> cursores;
     std::vector<std::string> titulos;
+    std::vector<std::filesystem::path> ayudas;
     std::vector<bool> relojesDeArena;
     std::vector<bool> autoSave;  ///< what the timer was told, on or off
     std::vector<bool> timer2;
@@ -79,6 +80,7 @@ class PlataformaFalsa : public Plataforma {
     void ponerCursor(Cursor cursor) override { cursores.push_back(cursor); }
     void ponerRelojDeArena(bool puesto) override { relojesDeArena.push_back(puesto); }
     void ponerTitulo(const std::string& titulo) override { titulos.push_back(titulo); }
+    void mostrarAyuda(const std::filesystem::path& manual) override { ayudas.push_back(manual); }
     void vistaCambiada() override { ++vistas; }
     void repintar(const ZonaSucia& zona, const ZonaSucia& paso) override;
     void terminar() override { terminado = true; }

@@ -11,6 +11,7 @@
 #     clic 300 200
 
 espera=${ESPERA:-20} # seconds until something that has not come counts as failed
+escala=${ESCALA:-1}  # pixels of the screen to one of the program's, in which coordinates are given
 taller=$(mktemp -d "${TMPDIR:-/tmp}/bosquel-e2e.XXXXXX")
 carpeta=$taller/programa # the program's own folder: its settings, its drawings
 procesoPantalla=
@@ -90,13 +91,13 @@ arrancar() {
     chmod 700 "$taller/casa"
     copia=$carpeta/$(basename "$programa")
     cp "$programa" "$copia"
-    # Sharp, unscaled, in Spanish, and without anything of the user's.
+    # Sharp, at the scale that was asked for, in Spanish, and without anything of the user's.
     (
         cd "$carpeta" || exit
         exec env -u QT_STYLE_OVERRIDE -u QT_QPA_PLATFORMTHEME -u XDG_CURRENT_DESKTOP -u DESKTOP_SESSION \
             -u DBUS_SESSION_BUS_ADDRESS HOME="$taller/casa" XDG_CONFIG_HOME="$taller/casa" \
             XDG_RUNTIME_DIR="$taller/casa" LC_ALL=es_ES.UTF-8 QT_QPA_PLATFORM=xcb \
-            QT_SCALE_FACTOR=1 QT_ENABLE_HIGHDPI_SCALING=0 QT_FONT_DPI=96 "$copia" "$@"
+            QT_SCALE_FACTOR="$escala" QT_ENABLE_HIGHDPI_SCALING=0 QT_FONT_DPI=96 "$copia" "$@"
     ) >>"$taller/salida.txt" 2>&1 &
     procesoPrograma=$!
 }
@@ -142,15 +143,15 @@ situarEn() {
     local X Y WIDTH HEIGHT
     medidas "$1"
     ventana=$1
-    origenX=$((X + ${2:-0}))
-    origenY=$((Y + ${3:-0}))
+    origenX=$((X + escala * ${2:-0}))
+    origenY=$((Y + escala * ${3:-0}))
     timeout "$espera" xdotool windowfocus "$1" || mal "la ventana no toma el teclado"
 }
 
 # A moment for the program to take in what was done to it.
 pausa() { sleep "${1:-0.15}"; }
 
-mover() { timeout "$espera" xdotool mousemove $((origenX + $1)) $((origenY + $2)); pausa 0.05; }
+mover() { timeout "$espera" xdotool mousemove $((origenX + escala * $1)) $((origenY + escala * $2)); pausa 0.05; }
 
 # clic X Y [BOTON]
 clic() {
@@ -187,7 +188,7 @@ captura() { timeout "$espera" import -silent -window "${2:-root}" "$1" || mal "n
 # colorEn X Y: the colour of a pixel, counted as for a click, as rrggbb.
 colorEn() {
     captura "$taller/pixel.png"
-    convert "$taller/pixel.png" -crop "1x1+$((origenX + $1))+$((origenY + $2))" -depth 8 rgb:- | od -An -tx1 | tr -d ' \n'
+    convert "$taller/pixel.png" -crop "1x1+$((origenX + escala * $1))+$((origenY + escala * $2))" -depth 8 rgb:- | od -An -tx1 | tr -d ' \n'
 }
 
 # comprobar QUE ESPERADO OBTENIDO

@@ -37,6 +37,7 @@ class PlataformaMuda : public Plataforma {
     void ponerCursor(Cursor) override {}
     void ponerRelojDeArena(bool) override {}
     void ponerTitulo(const std::string&) override {}
+    void mostrarAyuda(const std::filesystem::path&) override {}
     void vistaCambiada() override {}
     void repintar(const ZonaSucia&, const ZonaSucia&) override {}
     void terminar() override {}

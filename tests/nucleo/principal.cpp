@@ -210,3 +210,20 @@ TEST(MuroPendiente, LaVentanaQueEsperaSeQueda) {
     EXPECT_EQ(banco.modo(), Modo::Aspa);
     EXPECT_EQ(banco.dibujo().Ventana.en(1)->Estado, "Nuevo");
 }
+
+TEST(Ayuda, PideElManualDeLaCarpetaDelProgramaYVuelveAAbrirLaCompuerta) {
+    Banco banco;
+    banco.boton("Ayuda");
+    EXPECT_EQ(banco.plataforma.ayudas, std::vector<std::filesystem::path>{banco.ruta("Bosquel.chm")});
+    EXPECT_FALSE(banco.sesion().Ocupado);
+    EXPECT_TRUE(banco.plataforma.mensajes.empty());
+}
+
+TEST(Ayuda, TerminaComoTodoBotonPrincipalLaOrdenAMedias) {
+    Banco banco;
+    banco.boton("Muro");
+    banco.boton("Ayuda");
+    EXPECT_EQ(banco.modo(), Modo::Aspa);
+    EXPECT_FALSE(banco.dibujo().Pared.existe(1));
+    EXPECT_EQ(banco.plataforma.ayudas.size(), 1U);
+}
