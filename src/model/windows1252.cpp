@@ -120,11 +120,13 @@ std::string aUtf8(std::string_view bytes) {
     return utf8;
 }
 
-std::string plegar(std::string_view bytes) {
-    std::string plegado(bytes);
-    for (char& c : plegado)
-        c = minusculas[octeto(c)];
-    return plegado;
+char enMinuscula(char byte) {
+    return minusculas[octeto(byte)];
+}
+
+bool mismoNombre(std::string_view uno, std::string_view otro) {
+    return std::equal(uno.begin(), uno.end(), otro.begin(), otro.end(),
+                      [](char a, char b) { return enMinuscula(a) == enMinuscula(b); });
 }
 
 }  // namespace bosquel

@@ -27,7 +27,9 @@ bool entreComillas(std::string_view texto) {
 }  // namespace
 
 std::string_view tomarLinea(std::string_view& texto) {
-    const std::size_t salto = std::min(texto.find_first_of(saltos), texto.size());
+    const auto esSalto = [](char c) { return c == '\r' || c == '\n'; };
+    const auto salto =
+        static_cast<std::size_t>(std::find_if(texto.begin(), texto.end(), esSalto) - texto.begin());
     const std::size_t fin = texto.substr(salto).starts_with(finDeLinea) ? 2 : 1;
     const std::string_view linea = texto.substr(0, salto + fin);
     texto.remove_prefix(linea.size());
@@ -48,8 +50,9 @@ std::string_view nombre(std::string_view texto) {
 
 std::optional<std::string_view> nombreDeCabecera(std::string_view linea) {
     const std::string_view texto = sinBlancos(sinFin(linea));
+    if (!texto.starts_with('[')) return std::nullopt;
     const std::size_t cierre = texto.rfind(']');
-    if (!texto.starts_with('[') || cierre == std::string_view::npos) return std::nullopt;
+    if (cierre == std::string_view::npos) return std::nullopt;
     return nombre(texto.substr(1, cierre - 1));
 }
 
