@@ -1,6 +1,7 @@
 #include "drawing/archivo.h"
 
 #include "drawing/seleccion.h"
+#include "drawing/texto_libre.h"
 #include "drawing/vista.h"
 #include "persistence/archivo_dibujo.h"
 #include "persistence/perfiles.h"
@@ -85,8 +86,9 @@ void AbrirDibujo(Sesion& sesion) {
     ActualizarBarras(sesion);
     sesion.regla.FactorZoom = sesion.dibujo.FactorZoomActual;
     if (sesion.dibujo.VerCuadricula) DibujarCuadricula(sesion);
+    anunciarTodo(sesion.dibujo);
     leerElementos(archivo, sesion.dibujo);
-    sesion.dibujo.sucia.anadirTodo();
+    sesion.dibujo.TextoLibre.recorrer([&](int, TextoLibre& texto) { ajustarATexto(sesion, texto); });
     sesion.plataforma.ponerTitulo(titulo(*ruta));
 }
 

@@ -64,7 +64,7 @@ void ampliar(Dibujo& dibujo, int indice, Puerta&) {
 
 void ampliar(Dibujo& dibujo, int, TextoLibre& texto) {
     escalarLugar(texto, dibujo.RelacionZoom);
-    texto.FontSize = 12 * dibujo.FactorZoomActual;
+    asignar(texto.FontSize, 12 * dibujo.FactorZoomActual);
 }
 
 void ampliarTodo(Dibujo& dibujo) {
