@@ -35,12 +35,13 @@ std::optional<fs::path> elegir(Sesion& sesion, PeticionArchivo::Modo modo, const
     return ruta;
 }
 
-/// The old file goes first, silently, however long that takes.
+/// The old file goes first, silently, however long that takes. While it is only this once the user's hand
+/// waits: a command that began in this turn would wait for the save that it stands upon.
 void borrarAnterior(Sesion& sesion, const fs::path& ruta) {
-    while (existe(ruta)) {
+    for (Espera espera = Espera::sinEntrada; existe(ruta); espera = Espera::completa) {
         std::error_code error;
         fs::remove(ruta, error);
-        cederEventos(sesion);
+        cederEventos(sesion, espera);
     }
 }
 

@@ -23,11 +23,6 @@ class Usuario {
             return cualquiera(std::array{Respuesta::si, Respuesta::no, Respuesta::cancelar});
         };
         banco_.enDialogoDePared([this](ParedProp& dialogo) { conPared(dialogo); });
-        // A "Salir" that was answered no leaves the gate shut: whoever waits for it waits for the next
-        // command.
-        banco_.plataforma.alCederEventos = [this] {
-            if (banco_.plataforma.turnos % 5 == 0) banco_.bosquel.pulsarTipo(3);
-        };
         banco_.plataforma.alAbrirOpciones = [this](Opciones& dialogo) { conOpciones(dialogo); };
     }
 
