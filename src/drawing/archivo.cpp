@@ -1,6 +1,7 @@
 #include "drawing/archivo.h"
 
 #include "drawing/seleccion.h"
+#include "drawing/texto_libre.h"
 #include "drawing/vista.h"
 #include "persistence/archivo_dibujo.h"
 #include "persistence/perfiles.h"
@@ -34,12 +35,13 @@ std::optional<fs::path> elegir(Sesion& sesion, PeticionArchivo::Modo modo, const
     return ruta;
 }
 
-/// The old file goes first, silently, however long that takes.
+/// The old file goes first, silently, however long that takes. While it is only this once the user's hand
+/// waits: a command that began in this turn would wait for the save that it stands upon.
 void borrarAnterior(Sesion& sesion, const fs::path& ruta) {
-    while (existe(ruta)) {
+    for (Espera espera = Espera::sinEntrada; existe(ruta); espera = Espera::completa) {
         std::error_code error;
         fs::remove(ruta, error);
-        cederEventos(sesion);
+        cederEventos(sesion, espera);
     }
 }
 
@@ -86,6 +88,7 @@ void AbrirDibujo(Sesion& sesion) {
     sesion.regla.FactorZoom = sesion.dibujo.FactorZoomActual;
     if (sesion.dibujo.VerCuadricula) DibujarCuadricula(sesion);
     leerElementos(archivo, sesion.dibujo);
+    sesion.dibujo.TextoLibre.recorrer([&](int, TextoLibre& texto) { ajustarATexto(sesion, texto); });
     anunciarTodo(sesion.dibujo);
     sesion.plataforma.ponerTitulo(titulo(*ruta));
 }

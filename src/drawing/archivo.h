@@ -9,10 +9,12 @@ namespace bosquel {
 // Opening, saving and auto-saving, and the gate that keeps commands and auto-save apart.
 
 /// A command begins (true): waits until a running auto-save is done, then shuts the gate. It ends (false):
-/// the gate opens at once.
+/// the gate opens at once, and an auto-save that has waited for it is made.
 void CheckAutoSaving(Sesion& sesion, bool Valor);
 
-/// One minute has gone by. At the due minute it waits until no command is running, and saves.
+/// One minute has gone by. At the due minute it saves; if a command is running, when that ends. It waits for
+/// it without a loop, since the command may be what it stands upon: one that shows a dialog, or gives other
+/// events a turn, cannot go on before the minute's event is over.
 void tmrAutoSave(Sesion& sesion);
 
 /// Writes the drawing to `Ruta`, in the place of what may stand there; asks for a file if `Ruta` is empty. A

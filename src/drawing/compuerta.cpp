@@ -2,21 +2,30 @@
 
 namespace bosquel {
 
+namespace {
+
+void salvar(Sesion& sesion) {
+    sesion.GuardandoAuto = true;
+    sesion.SalvadoPendiente = false;
+    sesion.MinutosAutoSave = 0;
+    GuardarDibujo(sesion, sesion.carpeta / ficheroAutoSave);
+    sesion.GuardandoAuto = false;
+}
+
+}  // namespace
+
 void CheckAutoSaving(Sesion& sesion, bool Valor) {
     while (Valor && sesion.GuardandoAuto)
         cederEventos(sesion);
     sesion.Ocupado = Valor;
+    if (!Valor && sesion.SalvadoPendiente) salvar(sesion);
 }
 
 void tmrAutoSave(Sesion& sesion) {
     ++sesion.MinutosAutoSave;
     if (sesion.MinutosAutoSave < sesion.dibujo.AutoSave) return;
-    while (sesion.Ocupado)
-        cederEventos(sesion);
-    sesion.GuardandoAuto = true;
-    sesion.MinutosAutoSave = 0;
-    GuardarDibujo(sesion, sesion.carpeta / ficheroAutoSave);
-    sesion.GuardandoAuto = false;
+    sesion.SalvadoPendiente = sesion.Ocupado;
+    if (!sesion.Ocupado) salvar(sesion);
 }
 
 }  // namespace bosquel

@@ -13,19 +13,6 @@ namespace bosquel {
 
 namespace {
 
-/// What a symbol's button makes, in millimetres.
-struct SimboloDeBoton {
-    const char* ObjectType;
-    double RectX, RectY;
-};
-
-constexpr std::array<SimboloDeBoton, 6> simbolos{{{"Punto de Luz", 250, 250},
-                                                  {"Interruptor", 200, 200},
-                                                  {"Enchufe", 160, 180},
-                                                  {"Pulsador", 150, 150},
-                                                  {"Señal TV", 200, 200},
-                                                  {"Cuadro Eléctrico", 325, 165}}};
-
 void mostrarEnLaVista(const Sesion& sesion, Situado& elemento) {
     const Esquina esquina = esquinaALaVista(sesion);
     elemento.Visible = true;
@@ -79,9 +66,9 @@ void pulsarCocina(Sesion& sesion, int indice) {
 }
 
 void pulsarElectrico(Sesion& sesion, int indice) {
-    const bool hayBoton = indice >= 0 && static_cast<std::size_t>(indice) < simbolos.size();
+    const bool hayBoton = indice >= 0 && static_cast<std::size_t>(indice) < simbolosDeBoton.size();
     if (!hayBoton || sesion.dibujo.ModoActual != Modo::Aspa) return;
-    const SimboloDeBoton& simbolo = simbolos[static_cast<std::size_t>(indice)];
+    const SimboloDeBoton& simbolo = simbolosDeBoton[static_cast<std::size_t>(indice)];
     CheckAutoSaving(sesion, true);
     auto& coleccion = sesion.dibujo.Electrico;
     if (Electrico* nuevo = crear(sesion, Clase::Electrico, coleccion)) {

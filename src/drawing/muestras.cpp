@@ -1,16 +1,13 @@
 #include "drawing/muestras.h"
 
+#include "drawing/creacion.h"
 #include "furnishing/calcar.h"
 
-#include <array>
 #include <optional>
 
 namespace bosquel {
 
 namespace {
-
-constexpr std::array<std::string_view, 6> simbolos{"Punto de Luz", "Interruptor", "Enchufe",
-                                                   "Pulsador",     "Señal TV",    "Cuadro Eléctrico"};
 
 /// The group of buttons that make furniture on a palette; nothing for the other palettes.
 std::optional<Grupo> grupoDe(Paleta paleta) {
@@ -29,7 +26,8 @@ std::optional<Grupo> grupoDe(Paleta paleta) {
 
 Calco muestraDe(const Dibujo& dibujo, Paleta paleta, int boton) {
     const auto i = static_cast<std::size_t>(boton);
-    if (paleta == Paleta::FrElectrico && i < simbolos.size()) return calcarSimbolo(dibujo, simbolos[i]);
+    if (paleta == Paleta::FrElectrico && i < simbolosDeBoton.size())
+        return calcarSimbolo(dibujo, simbolosDeBoton[i].ObjectType);
     const auto grupo = grupoDe(paleta);
     for (const DatosClase& fila : todasLasClases())
         if (fila.grupo == grupo && fila.boton == boton) return calcar(dibujo, fila.clase, 0);

@@ -6,52 +6,21 @@
 
 namespace bosquel {
 
-/// A button of the window's left column. One whose command does not exist yet cannot be pressed.
-struct BotonDePaleta {
-    std::string_view rotulo;
-    bool disponible = false;
-};
+// The captions of the buttons in the window's left column.
 
-inline constexpr std::array<BotonDePaleta, 4> BttOperacion{
-    {{"Paralela", true}, {"Esquina", true}, {"Union", true}, {"Separar", true}}};
-
-inline constexpr std::array<BotonDePaleta, 6> BttTipo{{{"Muebles", true},
-                                                       {"Baño", true},
-                                                       {"Cocina", true},
-                                                       {"División", true},
-                                                       {"Escalera", true},
-                                                       {"Eléctrico", true}}};
-
-inline constexpr std::array<BotonDePaleta, 6> BttMueble{{{"Mesa", true},
-                                                         {"Silla", true},
-                                                         {"Cama 90", true},
-                                                         {"Cama M", true},
-                                                         {"Armario", true},
-                                                         {"Asiento", true}}};
-inline constexpr std::array<BotonDePaleta, 6> BttBaño{{{"Inodoro", true},
-                                                       {"Lavabo", true},
-                                                       {"Bidet", true},
-                                                       {"Bañera", true},
-                                                       {"Ducha", true},
-                                                       {"Urinario", true}}};
-inline constexpr std::array<BotonDePaleta, 6> BttCocina{{{"Nevera", true},
-                                                         {"Cocina", true},
-                                                         {"Fregad.", true},
-                                                         {"Lavado.", true},
-                                                         {"Lavade.", true},
-                                                         {"Vertede.", true}}};
-inline constexpr std::array<BotonDePaleta, 6> BttUsuario{{{"Muro", true},
-                                                          {"Tabique", true},
-                                                          {"Pilar", true},
-                                                          {"Texto", true},
-                                                          {"Puerta", true},
-                                                          {"Ventana", true}}};
-inline constexpr std::array<BotonDePaleta, 6> BttElectrico{{{"Luz", true},
-                                                            {"Llave", true},
-                                                            {"Enchufe", true},
-                                                            {"Pulsador", true},
-                                                            {"Señal", true},
-                                                            {"Cuadro", true}}};
+inline constexpr std::array<std::string_view, 4> BttOperacion{"Paralela", "Esquina", "Union", "Separar"};
+inline constexpr std::array<std::string_view, 6> BttTipo{"Muebles",  "Baño",     "Cocina",
+                                                         "División", "Escalera", "Eléctrico"};
+inline constexpr std::array<std::string_view, 6> BttMueble{"Mesa",   "Silla",   "Cama 90",
+                                                           "Cama M", "Armario", "Asiento"};
+inline constexpr std::array<std::string_view, 6> BttBaño{"Inodoro", "Lavabo", "Bidet",
+                                                         "Bañera",  "Ducha",  "Urinario"};
+inline constexpr std::array<std::string_view, 6> BttCocina{"Nevera",  "Cocina",  "Fregad.",
+                                                           "Lavado.", "Lavade.", "Vertede."};
+inline constexpr std::array<std::string_view, 6> BttUsuario{"Muro",  "Tabique", "Pilar",
+                                                            "Texto", "Puerta",  "Ventana"};
+inline constexpr std::array<std::string_view, 6> BttElectrico{"Luz",      "Llave", "Enchufe",
+                                                              "Pulsador", "Señal", "Cuadro"};
 
 /// The relations between walls: starts the tool that the button stands for.
 void pulsarOperacion(Sesion& sesion, int indice);

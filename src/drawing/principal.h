@@ -22,23 +22,10 @@ enum class Principal : std::uint8_t {
     Colores
 };
 
-/// A button of the main strip. One whose command does not exist yet cannot be pressed.
-struct BotonPrincipal {
-    std::string_view rotulo;
-    bool disponible;
-};
-
-inline constexpr std::array<BotonPrincipal, 11> BttPrincipal{{{"Nuevo", true},
-                                                              {"Abrir", true},
-                                                              {"Guardar", true},
-                                                              {"Ayuda", true},
-                                                              {"Zoom", true},
-                                                              {"Definir", true},
-                                                              {"Opciones", true},
-                                                              {"Eliminar", true},
-                                                              {"Imprimir", true},
-                                                              {"Salir", true},
-                                                              {"Colores", true}}};
+/// The captions of the main buttons.
+inline constexpr std::array<std::string_view, 11> BttPrincipal{"Nuevo",    "Abrir",   "Guardar",  "Ayuda",
+                                                               "Zoom",     "Definir", "Opciones", "Eliminar",
+                                                               "Imprimir", "Salir",   "Colores"};
 
 /// A click: ends the tool in hand, and with it a wall that still waits, and runs the command inside the gate.
 void pulsarPrincipal(Sesion& sesion, Principal boton);

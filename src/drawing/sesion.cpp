@@ -15,9 +15,9 @@ void publicar(Sesion& sesion) {
     dibujo.paso.vaciar();
 }
 
-void cederEventos(Sesion& sesion) {
+void cederEventos(Sesion& sesion, Espera espera) {
     publicar(sesion);
-    sesion.plataforma.cederEventos();
+    sesion.plataforma.cederEventos(espera);
 }
 
 Respuesta preguntar(Sesion& sesion, const Mensaje& mensaje) {

@@ -69,8 +69,9 @@ struct Sesion {
     std::string_view Letrero = "Divisiones";
     int bordeElevado = -1;  ///< the main button whose border is raised, -1 for none
 
-    bool Ocupado = false;        ///< a command of the user is running
-    bool GuardandoAuto = false;  ///< an auto-save is writing
+    bool Ocupado = false;           ///< a command of the user is running
+    bool GuardandoAuto = false;     ///< an auto-save is writing
+    bool SalvadoPendiente = false;  ///< the due minute has come while a command was running
     std::int32_t MinutosAutoSave = 0;
     bool EjecutandoZoom = false;
 
@@ -85,8 +86,8 @@ struct Sesion {
 /// Lets the outside show what has changed so far.
 void publicar(Sesion& sesion);
 
-/// Waits for other events while it lasts; what has changed shows first.
-void cederEventos(Sesion& sesion);
+/// Gives other events a turn; what has changed shows first.
+void cederEventos(Sesion& sesion, Espera espera = Espera::completa);
 
 /// Shows a message and gives the answer; what has changed shows first.
 Respuesta preguntar(Sesion& sesion, const Mensaje& mensaje);

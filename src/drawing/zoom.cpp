@@ -66,7 +66,7 @@ void ampliar(Dibujo& dibujo, int indice, Puerta&) {
 
 void ampliar(Sesion& sesion, TextoLibre& texto) {
     escalarLugar(texto, sesion.dibujo.RelacionZoom);
-    texto.FontSize = puntosDeTexto * sesion.dibujo.FactorZoomActual;
+    asignar(texto.FontSize, puntosDeTexto * sesion.dibujo.FactorZoomActual);
     ajustarATexto(sesion, texto);
 }
 

@@ -4,6 +4,8 @@
 #include "stairs_symbols/escalera.h"
 #include "surface/medidora.h"
 
+#include <cmath>
+
 namespace bosquel {
 
 namespace {
@@ -32,10 +34,17 @@ Recuadro recuadro(const Dibujo&, const TextoLibre& texto) {
     return {texto.Left, texto.Top, texto.Width, texto.Height};
 }
 
+bool esFinito(const Recuadro& caja) {
+    return std::isfinite(caja.Left) && std::isfinite(caja.Top) && std::isfinite(caja.Width) &&
+           std::isfinite(caja.Height);
+}
+
 template <class T>
 std::optional<Recuadro> siSeVe(const Dibujo& dibujo, const Coleccion<T>& coleccion, int indice) {
     const T* elemento = indice == 0 ? nullptr : coleccion.en(indice);
-    return elemento && elemento->Visible ? std::optional(recuadro(dibujo, *elemento)) : std::nullopt;
+    if (!elemento || !elemento->Visible) return std::nullopt;
+    const Recuadro caja = recuadro(dibujo, *elemento);
+    return esFinito(caja) ? std::optional(caja) : std::nullopt;
 }
 
 }  // namespace

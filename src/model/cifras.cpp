@@ -14,7 +14,8 @@ namespace {
 constexpr int cifrasDelMasLargo = 767;
 
 void limpiarCeros(Cifras& numero) {
-    numero.cifras.resize(numero.cifras.find_last_not_of('0') + 1);
+    while (!numero.cifras.empty() && numero.cifras.back() == '0')
+        numero.cifras.pop_back();
     if (numero.cifras.empty()) numero = {};
 }
 
@@ -29,24 +30,43 @@ void subir(Cifras& numero) {
     }
 }
 
-}  // namespace
-
-Cifras cifrasExactas(double valor) {
-    if (!std::isfinite(valor)) return {};
-    std::array<char, cifrasDelMasLargo + 8> sitio{};
-    const auto [fin, error] = std::to_chars(sitio.begin(), sitio.end(), std::abs(valor),
-                                            std::chars_format::scientific, cifrasDelMasLargo - 1);
-    const std::string_view texto(sitio.data(), static_cast<std::size_t>(fin - sitio.data()));  // d.ddde+dd
+/// The digits of a finite value from its text, "d.ddde+dd" or "de+dd".
+Cifras leerCientifico(double valor, std::string_view texto) {
     const std::size_t letra = texto.find('e');
-
     Cifras numero;
     numero.negativo = std::signbit(valor);
-    numero.cifras.append(texto, 0, 1).append(texto, 2, letra - 2);
+    numero.cifras = texto.substr(0, 1);
+    if (letra > 2) numero.cifras.append(texto, 2, letra - 2);
     int exponente = 0;
-    std::from_chars(texto.data() + letra + 2, fin, exponente);
+    std::from_chars(texto.data() + letra + 2, texto.data() + texto.size(), exponente);
     numero.punto = (texto[letra + 1] == '-' ? -exponente : exponente) + 1;
     limpiarCeros(numero);
     return numero;
+}
+
+template <class... Precision>
+Cifras cientifico(double valor, Precision... precision) {
+    if (!std::isfinite(valor)) return {};
+    std::array<char, cifrasDelMasLargo + 8> sitio;  // NOLINT(*-member-init): the text is all that is read
+    const auto [fin, error] = std::to_chars(sitio.begin(), sitio.end(), std::abs(valor),
+                                            std::chars_format::scientific, precision...);
+    return leerCientifico(valor, {sitio.data(), static_cast<std::size_t>(fin - sitio.data())});
+}
+
+}  // namespace
+
+Cifras cifrasExactas(double valor) {
+    return cientifico(valor, cifrasDelMasLargo - 1);
+}
+
+Cifras primerasCifras(double valor, int cuantas) {
+    // The shortest text that reads back as the value is what the exact one rounds to, as soon as it is short
+    // enough: decimals of 15 digits lie further apart than binary values do. Denormal ones apart, that is.
+    Cifras corto = cientifico(valor);
+    const bool basta =
+        static_cast<int>(corto.cifras.size()) <= cuantas && (std::isnormal(valor) || valor == 0);
+    if (!basta) corto = recortar(cifrasExactas(valor), cuantas);
+    return corto;
 }
 
 Cifras recortar(Cifras numero, int cuantas) {

@@ -20,6 +20,9 @@ Cifras cifrasExactas(double valor);
 /// more goes away from zero, less than half towards it.
 Cifras recortar(Cifras numero, int cuantas);
 
+/// The same as `recortar(cifrasExactas(valor), cuantas)`, for 15 digits at most, at a fraction of the cost.
+Cifras primerasCifras(double valor, int cuantas);
+
 /// The digits on both sides of the decimal sign: "0" before it if there are none, nothing after it if there
 /// are none.
 struct Partes {

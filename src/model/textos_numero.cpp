@@ -48,7 +48,7 @@ std::string conExponente(const Cifras& numero) {
 }
 
 std::string textoDeCifras(double valor, int cifras) {
-    const Cifras numero = recortar(cifrasExactas(valor), cifras);
+    const Cifras numero = primerasCifras(valor, cifras);
     if (numero.cifras.empty()) return "0";
     const int exponente = numero.punto - 1;
     const bool esLlano = exponente >= menorExponenteLlano && exponente < cifras;

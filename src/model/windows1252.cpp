@@ -29,10 +29,10 @@ char32_t caracterDe(std::uint8_t byte) {
 }
 
 char byteDe(char32_t caracter) {
-    const auto* propio = std::find(propios.begin(), propios.end(), caracter);
-    if (propio != propios.end()) return static_cast<char>(propio - propios.begin() + primeroPropio);
     const bool mismoNumero = caracter < primeroPropio || (caracter >= 0xA0 && caracter <= 0xFF);
-    return mismoNumero ? static_cast<char>(caracter) : sinByte;
+    if (mismoNumero) return static_cast<char>(caracter);
+    const auto* propio = std::find(propios.begin(), propios.end(), caracter);
+    return propio == propios.end() ? sinByte : static_cast<char>(propio - propios.begin() + primeroPropio);
 }
 
 // How a sequence of UTF-8 begins: `marca` under `mascara`, and the least character it may stand for.
@@ -120,11 +120,13 @@ std::string aUtf8(std::string_view bytes) {
     return utf8;
 }
 
-std::string plegar(std::string_view bytes) {
-    std::string plegado(bytes);
-    for (char& c : plegado)
-        c = minusculas[octeto(c)];
-    return plegado;
+char enMinuscula(char byte) {
+    return minusculas[octeto(byte)];
+}
+
+bool mismoNombre(std::string_view uno, std::string_view otro) {
+    return std::equal(uno.begin(), uno.end(), otro.begin(), otro.end(),
+                      [](char a, char b) { return enMinuscula(a) == enMinuscula(b); });
 }
 
 }  // namespace bosquel

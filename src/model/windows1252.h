@@ -13,7 +13,10 @@ std::string aWindows1252(std::string_view utf8);
 /// of the same number, so that every text of bytes comes back as it was.
 std::string aUtf8(std::string_view bytes);
 
-/// The name in small letters, all Windows-1252 over: names that differ in case only fold into the same bytes.
-std::string plegar(std::string_view bytes);
+/// The small letter of a capital, all Windows-1252 over; any other byte as it is.
+char enMinuscula(char byte);
+
+/// True for names that differ in case only.
+bool mismoNombre(std::string_view uno, std::string_view otro);
 
 }  // namespace bosquel

@@ -124,7 +124,7 @@ void ImageCrop::esperar() {
     if (enEspera_) return;
     enEspera_ = true;
     while (Esperando_)
-        plataforma_.cederEventos();
+        plataforma_.cederEventos(Espera::completa);
     enEspera_ = false;
     Timer1_ = false;
 }

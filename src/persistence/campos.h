@@ -69,11 +69,30 @@ struct RealNormalizado {
     }
 };
 
+/// Always with a point in the file, but read as it stands under the locale: where the point groups digits, a
+/// fraction comes back as part of the whole number.
+struct RealNormalizadoAlEscribir : RealNormalizado {
+    static void leer(std::string_view texto, double& valor) { Forma<double>::leer(texto, valor); }
+};
+
+/// The number 1 or another, told by the two words.
+struct UnoOCero {
+    static std::string texto(std::int32_t valor) { return Forma<bool>::texto(valor == 1); }
+    static void leer(std::string_view texto, std::int32_t& valor);
+};
+
+/// A boolean in the words of the locale: written in Spanish or English, read in either, in capitals and small
+/// letters, or as a number, of which 0 is false.
+struct BooleanoDelIdioma {
+    static std::string texto(bool valor);
+    static void leer(std::string_view texto, bool& valor);
+};
+
 /// The form that follows from the type of the member.
 struct SegunTipo {};
 
 /// A row. `acceso` is a pointer to a member, or a function that gives a reference to it. Without
-/// `predeterminado` a missing key reads as the present value, by way of its text.
+/// `predeterminado` a missing key reads as the present value, by way of the text that its type has.
 template <class Acceso, class FormaPropia = SegunTipo>
 struct Campo {
     std::string_view clave;
@@ -111,12 +130,11 @@ void leerCampos(const ArchivoPerfil& archivo, std::string_view seccion, Objeto& 
                 const std::tuple<Filas...>& tabla) {
     const auto leer = [&]<class A, class F>(const Campo<A, F>& campo) {
         auto& valor = std::invoke(campo.acceso, objeto);
-        using LaForma = FormaDe<F, std::remove_cvref_t<decltype(valor)>>;
-        if (const auto texto = archivo.buscar(seccion, campo.clave))
-            LaForma::leer(*texto, valor);
-        else
-            LaForma::leer(campo.predeterminado ? std::string(*campo.predeterminado) : LaForma::texto(valor),
-                          valor);
+        using Valor = std::remove_cvref_t<decltype(valor)>;
+        auto texto = archivo.buscar(seccion, campo.clave);
+        if (!texto)
+            texto = campo.predeterminado ? std::string(*campo.predeterminado) : Forma<Valor>::texto(valor);
+        FormaDe<F, Valor>::leer(*texto, valor);
     };
     std::apply([&](const auto&... campo) { (leer(campo), ...); }, tabla);
 }

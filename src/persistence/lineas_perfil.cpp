@@ -9,10 +9,14 @@ namespace bosquel {
 namespace {
 
 constexpr std::size_t valorMasLargo = 254;
-constexpr std::string_view saltos = "\r\n";
+constexpr bool esSalto(char c) {
+    return c == '\r' || c == '\n';
+}
 
 std::string_view sinFin(std::string_view linea) {
-    return linea.substr(0, linea.find_last_not_of(saltos) + 1);
+    while (tieneFin(linea))
+        linea.remove_suffix(1);
+    return linea;
 }
 
 std::string_view hastaElNulo(std::string_view texto) {
@@ -27,7 +31,8 @@ bool entreComillas(std::string_view texto) {
 }  // namespace
 
 std::string_view tomarLinea(std::string_view& texto) {
-    const std::size_t salto = std::min(texto.find_first_of(saltos), texto.size());
+    const auto salto =
+        static_cast<std::size_t>(std::find_if(texto.begin(), texto.end(), esSalto) - texto.begin());
     const std::size_t fin = texto.substr(salto).starts_with(finDeLinea) ? 2 : 1;
     const std::string_view linea = texto.substr(0, salto + fin);
     texto.remove_prefix(linea.size());
@@ -35,7 +40,7 @@ std::string_view tomarLinea(std::string_view& texto) {
 }
 
 bool tieneFin(std::string_view linea) {
-    return linea.ends_with('\r') || linea.ends_with('\n');
+    return !linea.empty() && esSalto(linea.back());
 }
 
 bool esVacia(std::string_view linea) {
@@ -48,8 +53,9 @@ std::string_view nombre(std::string_view texto) {
 
 std::optional<std::string_view> nombreDeCabecera(std::string_view linea) {
     const std::string_view texto = sinBlancos(sinFin(linea));
+    if (!texto.starts_with('[')) return std::nullopt;
     const std::size_t cierre = texto.rfind(']');
-    if (!texto.starts_with('[') || cierre == std::string_view::npos) return std::nullopt;
+    if (cierre == std::string_view::npos) return std::nullopt;
     return nombre(texto.substr(1, cierre - 1));
 }
 

@@ -15,13 +15,18 @@ struct ArchivoPerfil::Imagen {
 };
 
 ArchivoPerfil::ArchivoPerfil(std::filesystem::path ruta) : ruta_(std::move(ruta)) {
-    const std::optional<std::string> bytes = leerArchivo(ruta_);
-    imagen_ = std::make_unique<Imagen>(Imagen{ImagenPerfil(bytes.value_or("")), bytes.has_value()});
+    std::optional<std::string> bytes = leerArchivo(ruta_);
+    const bool sustituible = bytes.has_value();
+    imagen_ = std::make_unique<Imagen>(Imagen{ImagenPerfil(std::move(bytes).value_or("")), sustituible});
 }
 
 ArchivoPerfil::~ArchivoPerfil() = default;
 ArchivoPerfil::ArchivoPerfil(ArchivoPerfil&&) noexcept = default;
 ArchivoPerfil& ArchivoPerfil::operator=(ArchivoPerfil&&) noexcept = default;
+
+bool ArchivoPerfil::haySeccion(std::string_view seccion) const {
+    return imagen_->contenido.haySeccion(aWindows1252(seccion));
+}
 
 std::optional<std::string> ArchivoPerfil::buscar(std::string_view seccion, std::string_view clave) const {
     const auto valor = imagen_->contenido.valor(aWindows1252(seccion), aWindows1252(clave));

@@ -21,6 +21,8 @@ class ArchivoPerfil {
     ArchivoPerfil(ArchivoPerfil&&) noexcept;
     ArchivoPerfil& operator=(ArchivoPerfil&&) noexcept;
 
+    bool haySeccion(std::string_view seccion) const;
+
     /// The value of the key, or nothing where the section or the key is missing or the value is empty: the
     /// caller's default then stands. A value is cut at 254 characters.
     std::optional<std::string> buscar(std::string_view seccion, std::string_view clave) const;

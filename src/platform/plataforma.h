@@ -52,6 +52,9 @@ struct PeticionTexto {
     std::string texto;
 };
 
+/// What a turn of waiting lets through: all events, or none that come from the user's hand, which wait.
+enum class Espera : std::uint8_t { completa, sinEntrada };
+
 /// The timers of the main window: the minute of auto-save, and a moment of 1 ms after which the event under
 /// way is sure to have ended, which goes off once.
 enum class Reloj : std::uint8_t { tmrAutoSave, Timer2 };
@@ -95,7 +98,7 @@ class Plataforma {
 
     /// Gives other events a turn. A wait loop calls it again and again: it must neither block for long nor
     /// return at once with nothing done.
-    virtual void cederEventos() = 0;
+    virtual void cederEventos(Espera espera) = 0;
     virtual void activar(Reloj reloj, bool activo) = 0;
 
     virtual void ponerCursor(Cursor cursor) = 0;

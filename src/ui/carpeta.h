@@ -12,8 +12,8 @@ std::filesystem::path carpetaDelPrograma();
 /// What comes with the program and does not change: where it was installed, or else beside the executable.
 std::filesystem::path carpetaDeDatos();
 
-/// Where the manual lies: as asked for, or else under the same name with what comes with the program. `pedido`
-/// if it lies nowhere.
+/// Where the manual lies: as asked for, or else under the same name with what comes with the program.
+/// `pedido` if it lies nowhere.
 std::filesystem::path sitioDelManual(const std::filesystem::path& pedido,
                                      const std::filesystem::path& datos = carpetaDeDatos());
 

@@ -13,7 +13,7 @@ namespace bosquel {
 /// A group of buttons, and what a click on one of them does.
 struct GrupoDeBotones {
     const char* nombre = nullptr;
-    std::span<const BotonDePaleta> botones;
+    std::span<const std::string_view> botones;
     std::span<const char* const> imagenes = {};
     void (Bosquel::*pulsar)(int) = nullptr;
 };
@@ -97,10 +97,9 @@ Columna::Columna(Bosquel& bosquel, QWidget* padre) : QWidget(padre), bosquel_(bo
 std::vector<Boton*> Columna::poner(const GrupoDeBotones& grupo, QWidget* padre, int y) {
     std::vector<Boton*> puestos;
     for (std::size_t i = 0; i < grupo.botones.size(); ++i) {
-        auto* boton = new Boton(QString("%1_%2").arg(grupo.nombre).arg(i), aQString(grupo.botones[i].rotulo),
+        auto* boton = new Boton(QString("%1_%2").arg(grupo.nombre).arg(i), aQString(grupo.botones[i]),
                                 i < grupo.imagenes.size() ? grupo.imagenes[i] : "", padre);
         boton->setGeometry(sitio(i, y));
-        boton->setEnabled(grupo.botones[i].disponible);
         if (grupo.pulsar)
             connect(boton, &Boton::clicked, this,
                     [this, pulsar = grupo.pulsar, i] { std::invoke(pulsar, bosquel_, static_cast<int>(i)); });

@@ -164,10 +164,10 @@ Medida PlataformaQt::medirTexto(const std::string& texto, double FontSize) {
             metrica.height() * unidadesPorPixel};
 }
 
-void PlataformaQt::cederEventos() {
-    QEventLoop espera;
-    QTimer::singleShot(turno, &espera, &QEventLoop::quit);
-    espera.exec();
+void PlataformaQt::cederEventos(Espera espera) {
+    QEventLoop bucle;
+    QTimer::singleShot(turno, &bucle, &QEventLoop::quit);
+    bucle.exec(espera == Espera::sinEntrada ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents);
 }
 
 void PlataformaQt::activar(Reloj reloj, bool activo) {

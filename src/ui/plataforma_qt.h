@@ -34,7 +34,7 @@ class PlataformaQt final : public Plataforma {
     std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo& peticion) override;
     std::string pedirTexto(const PeticionTexto& peticion) override;
     Medida medirTexto(const std::string& texto, double FontSize) override;
-    void cederEventos() override;
+    void cederEventos(Espera espera) override;
     void activar(Reloj reloj, bool activo) override;
     void ponerCursor(Cursor cursor) override;
     void ponerRelojDeArena(bool puesto) override;

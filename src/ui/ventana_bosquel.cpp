@@ -126,9 +126,8 @@ void VentanaBosquel::ponerFranja() {
     franja_->installEventFilter(this);
     for (const Puesto& puesto : franja) {
         const std::size_t i = indice(puesto.boton);
-        auto* boton = new Boton(QString("BttPrincipal_%1").arg(i), aQString(BttPrincipal[i].rotulo),
-                                puesto.imagen, franja_);
-        boton->setEnabled(BttPrincipal[i].disponible);
+        auto* boton =
+            new Boton(QString("BttPrincipal_%1").arg(i), aQString(BttPrincipal[i]), puesto.imagen, franja_);
         connect(boton, &Boton::clicked, this, [this, puesto] { bosquel_.pulsarPrincipal(puesto.boton); });
         connect(boton, &Boton::cruzado, this, [this, puesto] { bosquel_.cruzarPrincipal(puesto.boton); });
         principales_[i] = boton;

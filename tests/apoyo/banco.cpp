@@ -8,11 +8,11 @@ namespace bosquel::apoyo {
 
 namespace {
 
-/// The place of an available button in its row, -1 if it is not there.
+/// The place of a button in its row, -1 if it is not there.
 template <class Fila>
 int lugar(const Fila& fila, std::string_view rotulo) {
     for (std::size_t i = 0; i < fila.size(); ++i)
-        if (fila[i].disponible && fila[i].rotulo == rotulo) return static_cast<int>(i);
+        if (fila[i] == rotulo) return static_cast<int>(i);
     return -1;
 }
 

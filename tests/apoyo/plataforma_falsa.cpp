@@ -118,7 +118,8 @@ std::string PlataformaFalsa::pedirTexto(const PeticionTexto& peticion) {
     return textos.empty() ? std::string() : sacar(textos);
 }
 
-void PlataformaFalsa::cederEventos() {
+void PlataformaFalsa::cederEventos(Espera espera) {
+    esperas.push_back(espera);
     if (++turnos > turnosDeSobra) throw std::runtime_error("a wait loop that nothing ends");
     if (alCederEventos) alCederEventos();
 }

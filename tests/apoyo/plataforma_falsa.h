@@ -43,6 +43,7 @@ class PlataformaFalsa : public Plataforma {
     std::vector<bool> autoSave;  ///< what the timer was told, on or off
     std::vector<bool> timer2;
     std::vector<ZonaSucia> repintados, pasos;
+    std::vector<Espera> esperas;
     int turnos = 0;  ///< of waiting, since somebody last set it back
     int dialogosDePuerta = 0, dialogosDeVentana = 0;
     int dialogosDeColores = 0, dialogosDeElectrico = 0, dialogosDeEscalera = 0, dialogosDeImageCrop = 0;
@@ -75,7 +76,7 @@ class PlataformaFalsa : public Plataforma {
     Medida medirTexto(const std::string& texto, double FontSize) override {
         return {100.0 * static_cast<double>(texto.size()), 10 * FontSize};
     }
-    void cederEventos() override;
+    void cederEventos(Espera espera) override;
     void activar(Reloj reloj, bool activo) override;
     void ponerCursor(Cursor cursor) override { cursores.push_back(cursor); }
     void ponerRelojDeArena(bool puesto) override { relojesDeArena.push_back(puesto); }

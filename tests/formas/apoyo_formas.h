@@ -32,7 +32,7 @@ class PlataformaMuda : public Plataforma {
     }
     std::string pedirTexto(const PeticionTexto&) override { return {}; }
     Medida medirTexto(const std::string&, double) override { return {}; }
-    void cederEventos() override {}
+    void cederEventos(Espera) override {}
     void activar(Reloj, bool) override { ++activaciones; }
     void ponerCursor(Cursor) override {}
     void ponerRelojDeArena(bool) override {}

@@ -348,15 +348,14 @@ TEST_F(AyudaDesdeLaVentana, UnFicheroDanadoNoMuestraNada) {
     EXPECT_FALSE(bosquel.sesion().Ocupado);
 }
 
-TEST(SitioDelManual, EsElPedidoElQueEstaJuntoAlProgramaOElInstaladoConEl) {
+TEST(SitioDelManual, EsElPedidoOElQueVieneConElPrograma) {
     const apoyo::CarpetaTemporal carpeta;
-    const auto pedido = carpeta / "datos/Bosquel.chm";
-    const auto junto = carpeta / "bin/Bosquel.chm";
-    const auto instalado = carpeta / "share/bosquel-rapiz/Bosquel.chm";
-    EXPECT_EQ(sitioDelManual(pedido, carpeta / "bin"), pedido);
-    for (const auto& sitio : {instalado, junto, pedido}) {
+    const auto pedido = carpeta / "usuario/Bosquel.chm";
+    const auto propio = carpeta / "datos/Bosquel.chm";
+    EXPECT_EQ(sitioDelManual(pedido, carpeta / "datos"), pedido);
+    for (const auto& sitio : {propio, pedido}) {
         std::filesystem::create_directories(sitio.parent_path());
         apoyo::ponerBytes(sitio, "x");
-        EXPECT_EQ(sitioDelManual(pedido, carpeta / "bin"), sitio);
+        EXPECT_EQ(sitioDelManual(pedido, carpeta / "datos"), sitio);
     }
 }

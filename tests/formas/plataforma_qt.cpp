@@ -86,6 +86,27 @@ TEST_F(PlataformaQtPrueba, ElRelojDeAutoguardadoLateCadaMinuto) {
     EXPECT_FALSE(reloj.isActive());
 }
 
+TEST_F(PlataformaQtPrueba, ElMinutoQueLlegaDuranteUnaPreguntaEsperaASuRespuesta) {
+    const auto salvado = carpeta.ruta() / "AutoSave.bqr";
+    cuandoSeAbra<QMessageBox>([&](QMessageBox& caja) {
+        for (int minuto = 1; minuto <= 5; ++minuto)
+            bosquel.minutoDeAutoSave();
+        EXPECT_FALSE(std::filesystem::exists(salvado));
+        QTest::mouseClick(caja.button(QMessageBox::No), Qt::LeftButton);
+    });
+    pulsar("BttPrincipal_0");
+    EXPECT_TRUE(std::filesystem::exists(salvado));
+}
+
+TEST_F(PlataformaQtPrueba, UnTurnoDejaPasarLosSucesos) {
+    for (const Espera espera : {Espera::completa, Espera::sinEntrada}) {
+        bool paso = false;
+        QTimer::singleShot(0, &ventana, [&] { paso = true; });
+        plataforma.cederEventos(espera);
+        EXPECT_TRUE(paso);
+    }
+}
+
 TEST_F(PlataformaQtPrueba, ElRelojDeArenaSePoneYSeQuita) {
     plataforma.ponerRelojDeArena(true);
     ASSERT_TRUE(QApplication::overrideCursor());

@@ -1,31 +1,17 @@
 #include "apoyo/banco.h"
+#include "apoyo/dibujo_guardado.h"
 #include "apoyo/idioma.h"
 
 #include <gtest/gtest.h>
 
 using namespace bosquel;
 using apoyo::Banco;
+using apoyo::cabezas;
 using apoyo::Idioma;
+using apoyo::Lineas;
+using apoyo::seccion;
 
 namespace {
-
-using Lineas = std::vector<std::string>;
-
-/// The lines of one section, without its head and the blank line after it.
-Lineas seccion(const Lineas& lineas, const std::string& nombre) {
-    Lineas hallada;
-    auto i = std::find(lineas.begin(), lineas.end(), "[" + nombre + "]");
-    for (; i != lineas.end() && ++i != lineas.end() && !i->empty();)
-        hallada.push_back(*i);
-    return hallada;
-}
-
-Lineas cabezas(const Lineas& lineas) {
-    Lineas halladas;
-    for (const std::string& linea : lineas)
-        if (linea.starts_with('[')) halladas.push_back(linea);
-    return halladas;
-}
 
 /// A name in the file's own coding.
 const std::string numBañera =

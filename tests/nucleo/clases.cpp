@@ -50,12 +50,12 @@ const std::vector<Fila> filas{
 std::string_view rotuloDelBoton(const DatosClase& fila) {
     const auto boton = static_cast<std::size_t>(fila.boton);
     switch (fila.grupo) {
-        case Grupo::BttMueble: return BttMueble.at(boton).rotulo;
-        case Grupo::BttBaño: return BttBaño.at(boton).rotulo;
-        case Grupo::BttCocina: return BttCocina.at(boton).rotulo;
-        case Grupo::BttUsuario: return BttUsuario.at(boton).rotulo;
-        case Grupo::BttElectrico: return BttElectrico.at(boton).rotulo;
-        case Grupo::BttTipo: return BttTipo.at(boton).rotulo;
+        case Grupo::BttMueble: return BttMueble.at(boton);
+        case Grupo::BttBaño: return BttBaño.at(boton);
+        case Grupo::BttCocina: return BttCocina.at(boton);
+        case Grupo::BttUsuario: return BttUsuario.at(boton);
+        case Grupo::BttElectrico: return BttElectrico.at(boton);
+        case Grupo::BttTipo: return BttTipo.at(boton);
     }
     return {};
 }

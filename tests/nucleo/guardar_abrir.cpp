@@ -1,12 +1,18 @@
 #include "apoyo/banco.h"
+#include "apoyo/dibujo_guardado.h"
+#include "apoyo/disco_dificil.h"
 #include "apoyo/idioma.h"
 #include "apoyo/mensajes.h"
 
 #include <gtest/gtest.h>
+#include <optional>
 
 using namespace bosquel;
 using apoyo::Banco;
+using apoyo::DiscoLleno;
 using apoyo::Idioma;
+using apoyo::sinOcultos;
+using apoyo::SinPrivilegios;
 
 namespace {
 
@@ -101,6 +107,65 @@ TEST(Guardar, EnUnaCarpetaQueNoExisteDiceQueFueUnExito) {
     EXPECT_EQ(banco.carpeta.cuantos(), 0);
 }
 
+TEST(Guardar, EnUnaCarpetaDeSoloLecturaAcabaComoSiempreSinArchivo) {
+    Banco banco;
+    std::filesystem::permissions(banco.carpeta.ruta(), std::filesystem::perms{0555});
+    {
+        const SinPrivilegios nadie;
+        banco.guarda("plano.bqr");
+    }
+    std::filesystem::permissions(banco.carpeta.ruta(), std::filesystem::perms::owner_all);
+    EXPECT_EQ(banco.carpeta.cuantos(), 0);
+    EXPECT_EQ(banco.plataforma.titulo(), " - Bosquel Rapiz");
+    EXPECT_EQ(banco.plataforma.mensajes.size(), 1U);
+    EXPECT_FALSE(banco.plataforma.relojDeArena());
+}
+
+TEST(Guardar, UnArchivoQueNoSeDejaBorrarSeIntentaHastaQueSeDeja) {
+    Banco banco;
+    banco.pon("plano.bqr", "[Viejo]\r\n");
+    std::filesystem::permissions(banco.carpeta.ruta(), std::filesystem::perms{0555});
+    std::optional<SinPrivilegios> nadie(std::in_place);
+    banco.plataforma.alCederEventos = [&] {
+        EXPECT_FALSE(banco.plataforma.relojDeArena());
+        if (banco.plataforma.turnos < 9) return;
+        nadie.reset();
+        std::filesystem::permissions(banco.carpeta.ruta(), std::filesystem::perms::owner_all);
+    };
+    banco.guarda("plano.bqr");
+    EXPECT_EQ(banco.plataforma.turnos, 10);
+    EXPECT_TRUE(banco.bytes("plano.bqr").starts_with("[Cabecera]"));
+    EXPECT_EQ(banco.plataforma.mensajes.size(), 1U);
+}
+
+TEST(Guardar, EnUnDiscoLlenoSePierdeElArchivoAnterior) {
+    Banco banco;
+    banco.guarda("plano.bqr");
+    banco.plataforma.mensajes.clear();
+    {
+        const DiscoLleno lleno(100);
+        banco.guarda("plano.bqr");
+    }
+    EXPECT_EQ(banco.carpeta.cuantos(), 0);
+    EXPECT_EQ(banco.plataforma.titulo(), " - Bosquel Rapiz");
+    EXPECT_EQ(banco.plataforma.mensajes.size(), 1U);
+    EXPECT_FALSE(banco.plataforma.relojDeArena());
+    banco.guarda("plano.bqr");
+    EXPECT_EQ(banco.plataforma.titulo(), "plano.bqr - Bosquel Rapiz");
+}
+
+TEST(Guardar, EnElNombreDeUnaCarpetaODeUnDispositivoNoSeEscribe) {
+    Banco banco;
+    std::filesystem::create_directory(banco.ruta("carpeta.bqr"));
+    std::filesystem::create_symlink("/dev/full", banco.ruta("dispositivo.bqr"));
+    for (const char* nombre : {"carpeta.bqr", "dispositivo.bqr"}) {
+        banco.guarda(nombre);
+        EXPECT_EQ(banco.plataforma.titulo(), " - Bosquel Rapiz");
+    }
+    EXPECT_EQ(banco.carpeta.cuantos(), 2);
+    EXPECT_TRUE(std::filesystem::is_directory(banco.ruta("carpeta.bqr")));
+}
+
 TEST(Abrir, LoGuardadoVuelveYSeGuardaIgual) {
     for (const char* idioma : {Idioma::espanol, Idioma::ingles}) {
         const Idioma puesto(idioma);
@@ -109,12 +174,12 @@ TEST(Abrir, LoGuardadoVuelveYSeGuardaIgual) {
         banco.guarda("uno.bqr");
         banco.abre("uno.bqr");
         banco.guarda("dos.bqr");
-        EXPECT_EQ(banco.lineas("dos.bqr"), banco.lineas("uno.bqr"));
+        EXPECT_EQ(sinOcultos(banco.lineas("dos.bqr")), sinOcultos(banco.lineas("uno.bqr")));
         Banco otro;
         otro.pon("uno.bqr", banco.bytes("uno.bqr"));
         otro.abre("uno.bqr");
         otro.guarda("tres.bqr");
-        EXPECT_EQ(otro.bytes("tres.bqr"), banco.bytes("uno.bqr"));
+        EXPECT_EQ(otro.bytes("tres.bqr"), banco.bytes("dos.bqr"));
         EXPECT_FALSE(otro.pared(3).lineas[1].Visible);
         EXPECT_FALSE(otro.dibujo().Pared.existe(2));
     }
@@ -188,11 +253,27 @@ TEST(Abrir, DosSeguidosNoSeMezclan) {
     banco.boton("Nuevo");
     banco.ponMuro({.angulo = 45});
     banco.guarda("uno.bqr");
-    const std::string uno = banco.bytes("uno.bqr");
-    banco.abre("tres.bqr");
-    EXPECT_EQ(banco.dibujo().Pared.ultimo(), 3);
+    Banco otro;
+    otro.pon("uno.bqr", banco.bytes("uno.bqr"));
+    otro.abre("uno.bqr");
+    otro.guarda("solo.bqr");
+    for (int vez = 0; vez < 3; ++vez) {
+        banco.abre("tres.bqr");
+        EXPECT_EQ(banco.dibujo().Pared.ultimo(), 3);
+    }
     banco.abre("uno.bqr");
     EXPECT_EQ(banco.dibujo().Pared.ultimo(), 1);
+    EXPECT_EQ(banco.dibujo().Electrico.ultimo(), 1);
     banco.guarda("otra.bqr");
-    EXPECT_EQ(banco.bytes("otra.bqr"), uno);
+    EXPECT_EQ(banco.bytes("otra.bqr"), otro.bytes("solo.bqr"));
+}
+
+TEST(Abrir, UnaCarpetaEsUnDibujoVacio) {
+    Banco banco;
+    banco.ponMuro();
+    std::filesystem::create_directory(banco.ruta("carpeta.bqr"));
+    banco.abre("carpeta.bqr");
+    EXPECT_EQ(banco.dibujo().Pared.ultimo(), 0);
+    EXPECT_EQ(banco.hoja().Width, 10000.0F);
+    EXPECT_EQ(banco.plataforma.titulo(), " - Bosquel Rapiz");
 }

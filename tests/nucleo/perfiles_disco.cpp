@@ -1,13 +1,14 @@
+#include "apoyo/disco_dificil.h"
 #include "apoyo/perfil.h"
 
-#include <csignal>
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace bosquel;
+using apoyo::DiscoLleno;
+using apoyo::SinPrivilegios;
 namespace fs = std::filesystem;
 
 namespace {
@@ -15,35 +16,6 @@ namespace {
 class DiscoPerfil : public apoyo::Perfil {
   protected:
     static fs::perms permisos(const fs::path& ruta) { return fs::status(ruta).permissions(); }
-};
-
-/// Permissions mean nothing to the superuser: while this lives, the process is nobody.
-class SinPrivilegios {
-  public:
-    SinPrivilegios() { EXPECT_TRUE(::geteuid() != 0 || ::seteuid(65534) == 0); }
-    ~SinPrivilegios() { EXPECT_EQ(::seteuid(::getuid()), 0); }
-    SinPrivilegios(const SinPrivilegios&) = delete;
-    SinPrivilegios& operator=(const SinPrivilegios&) = delete;
-};
-
-/// While this lives, no file can grow beyond so many bytes, as on a disk that is full.
-class DiscoLleno {
-  public:
-    explicit DiscoLleno(rlim_t bytes) : senal_(std::signal(SIGXFSZ, SIG_IGN)) {
-        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &anterior_), 0);
-        const rlimit limite{bytes, anterior_.rlim_max};
-        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &limite), 0);
-    }
-    ~DiscoLleno() {
-        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &anterior_), 0);
-        std::signal(SIGXFSZ, senal_);
-    }
-    DiscoLleno(const DiscoLleno&) = delete;
-    DiscoLleno& operator=(const DiscoLleno&) = delete;
-
-  private:
-    rlimit anterior_{};
-    void (*senal_)(int);
 };
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "apoyo/perfil.h"
 
-#include <chrono>
 #include <gtest/gtest.h>
 
 using namespace bosquel;
@@ -108,8 +107,8 @@ TEST_F(EscrituraPerfil, UnaTandaDaLosMismosBytesQueLlamadaALlamada) {
     EXPECT_EQ(apoyo::bytesDe(otra), bytes());
 }
 
+// In time that grew with the square of the keys this would take hours, and ctest ends it.
 TEST_F(EscrituraPerfil, DoscientasMilClavesSeGuardanYSeLeenDeprisa) {
-    const auto comienzo = std::chrono::steady_clock::now();
     const auto seccion = [](int i) { return "Mesa(" + std::to_string(i / 50) + ")"; };
     const auto clave = [](int i) { return "UnaClaveLarga" + std::to_string(i % 50); };
     constexpr int cuantas = 200'000;
@@ -122,6 +121,4 @@ TEST_F(EscrituraPerfil, DoscientasMilClavesSeGuardanYSeLeenDeprisa) {
     const ArchivoPerfil archivo(ruta_);
     for (int i = 0; i < cuantas; ++i)
         ASSERT_EQ(archivo.leer(seccion(i), clave(i)), std::to_string(i * 2));
-    EXPECT_LT(std::chrono::steady_clock::now() - comienzo,
-              std::chrono::seconds(20));  // quadratic takes hours
 }

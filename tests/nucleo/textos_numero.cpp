@@ -1,8 +1,11 @@
 #include "model/textos_numero.h"
 
 #include "apoyo/idioma.h"
+#include "model/cifras.h"
 
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
@@ -174,6 +177,31 @@ TEST(FormatoMetros, ValeParaCualquierMagnitud) {
         EXPECT_TRUE(texto.ends_with(",00"));
         EXPECT_EQ(enteroTecleado(texto.substr(0, texto.size() - 3)), valor);
     }
+}
+
+TEST(TextoReal, SusCifrasSonSiempreLasDelValorExactoRedondeado) {
+    const auto comparar = [](double valor) {
+        for (const int cuantas : {7, 15}) {
+            const Cifras exactas = recortar(cifrasExactas(valor), cuantas);
+            const Cifras primeras = primerasCifras(valor, cuantas);
+            ASSERT_EQ(primeras.cifras, exactas.cifras) << valor;
+            ASSERT_EQ(primeras.punto, exactas.punto) << valor;
+            ASSERT_EQ(primeras.negativo, exactas.negativo) << valor;
+        }
+    };
+    std::mt19937_64 azar(11);
+    for (int i = 0; i < 3000; ++i) {
+        comparar(std::bit_cast<double>(azar()));
+        comparar(std::bit_cast<float>(static_cast<std::uint32_t>(azar())));
+        const int exponente = static_cast<int>(azar() % 330) - 330;
+        comparar(static_cast<double>(azar() % 1000000000000000) * std::pow(10.0, exponente / 2.0));
+        comparar(static_cast<double>(azar() % 100000) / 64);
+        comparar(std::nextafter(std::ldexp(1.0, exponente), azar() % 2 == 0 ? infinito : -infinito));
+        comparar(std::ldexp(static_cast<double>(azar() % 1000), -1074));
+    }
+    for (const double valor : {0.0, -0.0, infinito, -infinito, ninguno, std::numeric_limits<double>::max(),
+                               std::numeric_limits<double>::min(), std::numeric_limits<double>::denorm_min()})
+        comparar(valor);
 }
 
 TEST(Formatos, UnificarPoneSiemprePunto) {

@@ -57,8 +57,8 @@ TEST(Windows1252, BytesAlAzarNuncaRompenNada) {
     }
 }
 
-TEST(Plegar, IgualaMayusculasYMinusculasEnTodaLaPagina) {
-    EXPECT_EQ(plegar("AZaz09_[]"), "azaz09_[]");
+TEST(MismoNombre, IgualaMayusculasYMinusculasEnTodaLaPagina) {
+    EXPECT_TRUE(mismoNombre("AZaz09_[]", "azaz09_[]"));
     for (const auto& [mayuscula, minuscula] : {std::pair{"Ñ", "ñ"},
                                                {"Á", "á"},
                                                {"Ü", "ü"},
@@ -67,15 +67,21 @@ TEST(Plegar, IgualaMayusculasYMinusculasEnTodaLaPagina) {
                                                {"Ž", "ž"},
                                                {"Ÿ", "ÿ"},
                                                {"Þ", "þ"}}) {
-        EXPECT_EQ(plegar(aWindows1252(mayuscula)), plegar(aWindows1252(minuscula))) << mayuscula;
-        EXPECT_EQ(plegar(aWindows1252(minuscula)), aWindows1252(minuscula)) << mayuscula;
+        EXPECT_TRUE(mismoNombre(aWindows1252(mayuscula), aWindows1252(minuscula))) << mayuscula;
+        EXPECT_EQ(enMinuscula(aWindows1252(mayuscula)[0]), aWindows1252(minuscula)[0]) << mayuscula;
+        EXPECT_EQ(enMinuscula(aWindows1252(minuscula)[0]), aWindows1252(minuscula)[0]) << mayuscula;
     }
 }
 
-TEST(Plegar, LosSignosYLaEszettNoTienenPareja) {
-    for (const char* signo : {"×", "÷", "ß", "¿", "ª", "µ", "ƒ", "@", "[", "{"}) {
-        EXPECT_EQ(plegar(aWindows1252(signo)), aWindows1252(signo)) << signo;
-    }
-    EXPECT_NE(plegar(aWindows1252("×")), plegar(aWindows1252("÷")));
-    EXPECT_NE(plegar(aWindows1252("ß")), plegar(aWindows1252("ÿ")));
+TEST(MismoNombre, LosSignosYLaEszettNoTienenPareja) {
+    for (const char* signo : {"×", "÷", "ß", "¿", "ª", "µ", "ƒ", "@", "[", "{"})
+        EXPECT_EQ(enMinuscula(aWindows1252(signo)[0]), aWindows1252(signo)[0]) << signo;
+    EXPECT_FALSE(mismoNombre(aWindows1252("×"), aWindows1252("÷")));
+    EXPECT_FALSE(mismoNombre(aWindows1252("ß"), aWindows1252("ÿ")));
+}
+
+TEST(MismoNombre, ElMasLargoEsOtro) {
+    EXPECT_FALSE(mismoNombre("mesa", "mesas"));
+    EXPECT_FALSE(mismoNombre("mesa", ""));
+    EXPECT_TRUE(mismoNombre("", ""));
 }

@@ -1,0 +1,160 @@
+#include "apoyo/dibujo_guardado.h"
+#include "drawing/bosquel.h"
+#include "furnishing/dibujar_elemento.h"
+#include "furnishing/recuadro.h"
+#include "persistence/archivo_dibujo.h"
+#include "surface/medidora.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <unistd.h>
+
+// Opens arbitrary bytes as a drawing and does with it what a user does first: sees it, zooms it, sends it out
+// and saves it; and what was saved has to come back as it was. Any fault ends the program.
+
+using namespace bosquel;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Drawings that promise more elements than these are left to the tests: each of them would take the place
+/// of a thousand others.
+constexpr int muchos = 300;
+
+/// An outside that shows nothing, asks nobody and answers with one file.
+class PlataformaMuda : public Plataforma {
+  public:
+    fs::path archivo;
+
+    Respuesta mensaje(const Mensaje&) override { return Respuesta::aceptar; }
+    void mostrar(Colores&) override {}
+    void mostrar(ElectricoProp&) override {}
+    void mostrar(Entrada&) override {}
+    void mostrar(EscaleraProp&) override {}
+    void mostrar(ImageCrop&) override {}
+    void mostrar(MesaProp&) override {}
+    void mostrar(MuebleProp&) override {}
+    void mostrar(Opciones&) override {}
+    void mostrar(ParedProp&) override {}
+    void mostrar(PuertaProp&) override {}
+    void mostrar(VentanaProp&) override {}
+    void mostrar(Paralelas&) override {}
+    std::optional<fs::path> elegirArchivo(const PeticionArchivo&) override { return archivo; }
+    std::string pedirTexto(const PeticionTexto&) override { return {}; }
+    Medida medirTexto(const std::string& texto, double FontSize) override {
+        return {FontSize * static_cast<double>(texto.size()), FontSize};
+    }
+    void cederEventos(Espera) override {}
+    void activar(Reloj, bool) override {}
+    void ponerCursor(Cursor) override {}
+    void ponerRelojDeArena(bool) override {}
+    void ponerTitulo(const std::string&) override {}
+    void vistaCambiada() override {}
+    void repintar(const ZonaSucia&, const ZonaSucia&) override {}
+    void terminar() override {}
+};
+
+/// A folder for the files of one process, in memory where the system has such a place.
+class Carpeta {
+  public:
+    Carpeta() {
+        const fs::path memoria = "/dev/shm";
+        ruta_ = (fs::is_directory(memoria) ? memoria : fs::temp_directory_path()) /
+                ("bosquel-fuzz-" + std::to_string(::getpid()));
+        fs::create_directories(ruta_);
+    }
+    ~Carpeta() {
+        std::error_code error;
+        fs::remove_all(ruta_, error);
+    }
+    Carpeta(const Carpeta&) = delete;
+    Carpeta& operator=(const Carpeta&) = delete;
+
+    fs::path operator/(const char* nombre) const { return ruta_ / nombre; }
+    const fs::path& ruta() const { return ruta_; }
+
+  private:
+    fs::path ruta_;
+};
+
+int elementosQuePromete(const fs::path& ruta) {
+    Dibujo dibujo;
+    leerCabecera(ArchivoPerfil(ruta), dibujo);
+    int total = 0;
+    for (const DatosClase& fila : todasLasClases())
+        total +=
+            conColeccion(dibujo, fila.clase, [](const auto& una) { return std::max<int>(una.contador, 0); });
+    return total;
+}
+
+void dibujar(const Dibujo& dibujo) {
+    Medidora medidora;
+    DibujarTodo(salidaDe(dibujo, medidora, 1.1338582677), dibujo);
+    for (const DatosClase& fila : todasLasClases())
+        conColeccion(dibujo, fila.clase, [&](const auto& coleccion) {
+            coleccion.recorrer([&](int indice, const auto&) {
+                recuadroDe(dibujo, fila.clase, indice);
+                extensionDe(dibujo, fila.clase, indice);
+            });
+        });
+}
+
+/// The program, with one file to open and to save.
+class Programa {
+  public:
+    explicit Programa(const fs::path& carpeta) : bosquel_(plataforma_, carpeta) { bosquel_.cargar(); }
+
+    const Dibujo& dibujo() const { return bosquel_.sesion().dibujo; }
+    void pulsar(Principal boton) { bosquel_.pulsarPrincipal(boton); }
+
+    void abrir(const fs::path& ruta) {
+        plataforma_.archivo = ruta;
+        pulsar(Principal::Abrir);
+    }
+    /// The lines of what was saved.
+    apoyo::Lineas guardar(const fs::path& ruta) {
+        plataforma_.archivo = ruta;
+        pulsar(Principal::Guardar);
+        std::ifstream archivo(ruta, std::ios::binary);
+        apoyo::Lineas lineas;
+        for (std::string linea; std::getline(archivo, linea);)
+            lineas.push_back(linea.substr(0, linea.find_last_not_of('\r') + 1));
+        return lineas;
+    }
+
+  private:
+    PlataformaMuda plataforma_;
+    Bosquel bosquel_;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t cuantos) {
+    static const Carpeta carpeta;
+    const fs::path entrada = carpeta / "entrada.bqr", salida = carpeta / "salida.bqr";
+    std::ofstream(entrada, std::ios::binary)
+        .write(reinterpret_cast<const char*>(datos), static_cast<std::streamsize>(cuantos));
+
+    if (elementosQuePromete(entrada) > muchos) return 0;
+
+    Programa programa(carpeta.ruta());
+    programa.abrir(entrada);
+    for (int paso = 0; paso < 3; ++paso) {
+        dibujar(programa.dibujo());
+        programa.pulsar(Principal::Zoom);
+    }
+
+    // What does not read back as it was is settled the first time: from then on nothing changes.
+    programa.guardar(salida);
+    programa.abrir(salida);
+    const apoyo::Lineas antes = programa.guardar(salida);
+    programa.abrir(salida);
+    if (apoyo::sinOcultos(programa.guardar(salida)) != apoyo::sinOcultos(antes)) std::abort();
+    return 0;
+}

@@ -1,0 +1,78 @@
+#include "apoyo/banco.h"
+#include "apoyo/dibujo_guardado.h"
+#include "apoyo/idioma.h"
+
+#include <gtest/gtest.h>
+#include <vector>
+
+using namespace bosquel;
+using apoyo::Banco;
+using apoyo::bytesDe;
+using apoyo::Idioma;
+using apoyo::sinOcultos;
+
+namespace {
+
+const std::filesystem::path raiz = std::filesystem::path(BOSQUEL_SRC).parent_path();
+
+void abrir(Banco& banco, const std::string& texto) {
+    banco.pon("ejemplo.bqr", texto);
+    banco.abre("ejemplo.bqr");
+}
+
+/// Without what opening adds, and without the one thing that is written in the words of the locale.
+apoyo::Lineas sinBarandas(const apoyo::Lineas& lineas) {
+    apoyo::Lineas quedan = sinOcultos(lineas);
+    std::erase_if(quedan, [](const std::string& linea) { return linea.starts_with("RailingSide"); });
+    return quedan;
+}
+
+template <class T>
+int cuantosSeVen(const Coleccion<T>& coleccion) {
+    int total = 0;
+    coleccion.recorrer([&](int, const T& elemento) {
+        if constexpr (requires { elemento.lineas; })
+            total += elemento.lineas[0].Visible ? 1 : 0;
+        else
+            total += elemento.Visible ? 1 : 0;
+    });
+    return total;
+}
+
+}  // namespace
+
+TEST(Ejemplos, VuelvenComoEstabanBajoCualquierIdioma) {
+    for (const char* nombre : {Idioma::espanol, Idioma::ingles}) {
+        const Idioma idioma(nombre);
+        for (const char* ejemplo : {"piso.bqr", "piso-amueblado.bqr"}) {
+            Banco banco;
+            abrir(banco, bytesDe(raiz / "ejemplos" / ejemplo));
+            banco.guarda("otra.bqr");
+            EXPECT_EQ(sinBarandas(banco.lineas("otra.bqr")), sinBarandas(banco.lineas("ejemplo.bqr")))
+                << ejemplo;
+        }
+    }
+}
+
+TEST(Ejemplos, ElPisoAmuebladoTieneDeTodo) {
+    Banco banco;
+    abrir(banco, bytesDe(raiz / "ejemplos" / "piso-amueblado.bqr"));
+    for (const DatosClase& fila : todasLasClases())
+        EXPECT_GT(conColeccion(banco.dibujo(), fila.clase, [](const auto& una) { return cuantosSeVen(una); }),
+                  0)
+            << fila.nombre;
+}
+
+TEST(Ejemplos, ElDelDocumentoEsLoQueDice) {
+    const std::string documento = bytesDe(raiz / "docs" / "formato-bqr.md");
+    const std::string marca = "```ini\n";
+    const auto desde = documento.find(marca) + marca.size();
+    Banco banco;
+    abrir(banco, documento.substr(desde, documento.find("```", desde) - desde));
+    EXPECT_EQ(cuantosSeVen(banco.dibujo().MblMesa), 1);
+    EXPECT_EQ(cuantosSeVen(banco.dibujo().Pared), 2);
+    EXPECT_EQ(cuantosSeVen(banco.dibujo().Puerta), 1);
+    EXPECT_EQ(banco.dibujo().Puerta.en(1)->NumeroPared, 1);
+    EXPECT_EQ(banco.pared(1).esMuro(), true);
+    EXPECT_EQ(banco.hoja().Width, 6000.0F);
+}
