@@ -11,9 +11,7 @@ namespace {
 
 template <class T>
 void crear(Sesion& sesion) {
-    auto& coleccion = sesion.dibujo.*Rasgos<T>::coleccion;
-    coleccion.crear(coleccion.contador).Estado = estadoNuevo;
-    avanzar(coleccion.contador);
+    if (T* nueva = (sesion.dibujo.*Rasgos<T>::coleccion).crearSiguiente()) nueva->Estado = estadoNuevo;
     ponerModo(sesion, Rasgos<T>::modo);
     sesion.plataforma.ponerCursor(Cursor::IcoSeleccion);
 }

@@ -5,6 +5,7 @@
 #include "drawing/vista.h"
 #include "persistence/archivo_dibujo.h"
 #include "persistence/perfiles.h"
+#include "platform/extension.h"
 
 #include <algorithm>
 #include <system_error>
@@ -29,10 +30,8 @@ std::string titulo(const fs::path& ruta) {
 
 std::optional<fs::path> elegir(Sesion& sesion, PeticionArchivo::Modo modo, const char* extension) {
     publicar(sesion);
-    auto ruta = sesion.plataforma.elegirArchivo({modo, filtro, sesion.carpeta / carpetaDibujos});
-    if (ruta && ruta->filename().string().find('.') == std::string::npos)
-        *ruta += std::string(".") + extension;
-    return ruta;
+    const auto ruta = sesion.plataforma.elegirArchivo({modo, filtro, sesion.carpeta / carpetaDibujos});
+    return ruta ? std::optional(conExtension(*ruta, extension)) : std::nullopt;
 }
 
 /// The old file goes first, silently, however long that takes. While it is only this once the user's hand
@@ -88,7 +87,10 @@ void AbrirDibujo(Sesion& sesion) {
     sesion.regla.FactorZoom = sesion.dibujo.FactorZoomActual;
     if (sesion.dibujo.VerCuadricula) DibujarCuadricula(sesion);
     leerElementos(archivo, sesion.dibujo);
-    sesion.dibujo.TextoLibre.recorrer([&](int, TextoLibre& texto) { ajustarATexto(sesion, texto); });
+    auto& textos = sesion.dibujo.TextoLibre;
+    textos.recorrer(0, textos.contador - 1, [&](int, TextoLibre& texto) { ajustarATexto(sesion, texto); });
+    // What was current in the old drawing is nothing in this one.
+    sesion.dibujo.ElementoActual.reset();
     anunciarTodo(sesion.dibujo);
     sesion.plataforma.ponerTitulo(titulo(*ruta));
 }

@@ -106,7 +106,7 @@ void senalarElemento(Sesion& sesion, Referencia cual) {
     QuitarSeleccion(dibujo);
     dibujo.ElementoActual = cual.clase;
     dibujo.IndiceActual = cual.indice;
-    resaltar(dibujo, cual, *elemento);
+    if (cual.clase != Clase::Escalera || !espera(dibujo.ModoActual)) resaltar(dibujo, cual, *elemento);
 }
 
 void moverElemento(Sesion& sesion, Referencia cual, bool boton1, float X, float Y) {

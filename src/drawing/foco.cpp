@@ -63,6 +63,11 @@ void enmarcar(Sesion& sesion, Referencia cual) {
                 sesion.RectSel.Visible});
 }
 
+void mostrarLoEscrito(Sesion& sesion) {
+    if (sesion.foco) enmarcar(sesion, *sesion.foco);
+    publicar(sesion);
+}
+
 void llevarMarco(Sesion& sesion, const Situado& elemento) {
     MarcoDeSeleccion marco = sesion.RectSel;
     marco.recuadro.Left = elemento.Left - MarcoDeSeleccion::aire;

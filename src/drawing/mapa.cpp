@@ -10,6 +10,7 @@ namespace bosquel {
 namespace {
 
 constexpr double lado = 1500;              // sheet units of a square
+constexpr double sinFigura = 240;          // sheet units of the box of what has no figure
 constexpr std::int64_t muchas = 64;        // squares
 constexpr double ultimaCasilla = 1 << 30;  // far beyond any sheet
 
@@ -60,12 +61,16 @@ void Mapa::porCasillas(const Recuadro& zona, Paso paso) {
 }
 
 void Mapa::anotar(const Dibujo& dibujo, Referencia cual, ZonaSucia& zona) {
+    const Situado* elemento = situado(dibujo, cual);
+    if (!elemento || !elemento->Visible) return;
     const auto extension = extensionDe(dibujo, cual.clase, cual.indice);
-    const auto caja = recuadroDe(dibujo, cual.clase, cual.indice);
-    if (!extension || !caja) return;
-    const Recuadro todo = unir(*extension, *caja);
+    // What draws nothing can be picked all the same, where it stands.
+    const Recuadro sitio{elemento->Left, elemento->Top, sinFigura, sinFigura};
+    const Recuadro caja =
+        recuadroDe(dibujo, cual.clase, cual.indice).value_or(extension ? *extension : sitio);
+    const Recuadro todo = extension ? unir(*extension, caja) : caja;
     const Clave clave = claveDe(cual);
-    fichas_[clave] = {cual, todo, cual.clase == Clase::Escalera ? *extension : *caja};
+    fichas_[clave] = {cual, todo, cual.clase == Clase::Escalera && extension ? *extension : caja};
     porCasillas(todo, [&](std::vector<Clave>& claves) { claves.push_back(clave); });
     zona.anadir(todo);
 }

@@ -1,6 +1,7 @@
 #include "drawing/opciones.h"
 
 #include "drawing/archivo.h"
+#include "drawing/foco.h"
 #include "drawing/vista.h"
 #include "model/numeros.h"
 #include "model/textos_numero.h"
@@ -82,6 +83,10 @@ void Opciones::Restablecer() {
     dibujo.Iman = false;
     dibujo.VerCuadricula = false;
     dibujo.AutoSave = minutosUsuales;
+    // Everything on the sheet is drawn by the factor.
+    anunciarTodo(dibujo);
+    if (sesion_.foco) enmarcar(sesion_, *sesion_.foco);
+    publicar(sesion_);
     CargarControles();
 }
 

@@ -58,9 +58,9 @@ void pulsarOperacion(Sesion& sesion, int indice) {
 }
 
 void pulsarTipo(Sesion& sesion, int indice) {
-    CheckAutoSaving(sesion, true);
     sesion.paleta = Paleta::ninguna;
     sesion.vistaSucia = true;
+    CheckAutoSaving(sesion, true);
     for (const PaletaDeTipo& fila : paletas)
         if (fila.boton == indice) {
             sesion.paleta = fila.paleta;

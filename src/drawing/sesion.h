@@ -92,11 +92,15 @@ void cederEventos(Sesion& sesion, Espera espera = Espera::completa);
 /// Shows a message and gives the answer; what has changed shows first.
 Respuesta preguntar(Sesion& sesion, const Mensaje& mensaje);
 
+/// A dialog that is open has written into the drawing: sheet and selection frame follow.
+void mostrarLoEscrito(Sesion& sesion);
+
 /// Shows a dialog until it is closed; what has changed shows first. One that writes into the drawing while it
 /// is open has an `alEscribir`, which it calls after each write: so the sheet shows it at once.
 template <class Dialogo>
 void mostrar(Sesion& sesion, Dialogo& dialogo) {
-    if constexpr (requires { dialogo.alEscribir; }) dialogo.alEscribir = [&sesion] { publicar(sesion); };
+    if constexpr (requires { dialogo.alEscribir; })
+        dialogo.alEscribir = [&sesion] { mostrarLoEscrito(sesion); };
     publicar(sesion);
     sesion.plataforma.mostrar(dialogo);
 }

@@ -68,7 +68,8 @@ Esquina esquinaALaVista(const Sesion& sesion) {
 
 void DibujarCuadricula(Sesion& sesion) {
     BorrarCuadricula(sesion);
-    cederEventos(sesion);
+    // The user's hand waits: a command that began in the midst of opening a file would mix two drawings.
+    cederEventos(sesion, Espera::sinEntrada);
     const Dibujo& dibujo = sesion.dibujo;
     asignar(sesion.cuadricula.paso, dibujo.Cuadricula * dibujo.FactorZoomActual);
     sesion.cuadricula.ancho = dibujo.Hoja.Width;

@@ -1,4 +1,5 @@
 #include "drawing/foco.h"
+#include "drawing/seleccion.h"
 #include "drawing/texto_libre.h"
 #include "drawing/vista.h"
 #include "model/numeros.h"
@@ -84,6 +85,11 @@ void ampliarTodo(Sesion& sesion) {
         });
 }
 
+std::optional<Referencia> actual(const Dibujo& dibujo) {
+    if (!dibujo.ElementoActual) return std::nullopt;
+    return Referencia{*dibujo.ElementoActual, dibujo.IndiceActual};
+}
+
 /// Where the sheet's edge goes so that the point in the middle of the view stays there.
 void conservarCentro(float& lugar, double visor, double relacion) {
     const double centro = std::abs(lugar) + visor / 2;
@@ -102,7 +108,12 @@ void EjecutarZOOM(Sesion& sesion) {
     escalar(dibujo.Hoja.Width, dibujo.RelacionZoom);
     escalar(dibujo.Hoja.Height, dibujo.RelacionZoom);
     sesion.regla.FactorZoom = dibujo.FactorZoomActual;
+    const auto elegido = actual(dibujo);
     ampliarTodo(sesion);
+    if (elegido && actual(dibujo) != elegido) {
+        apagar(dibujo, *elegido);
+        quitarFoco(sesion);
+    }
     conservarCentro(dibujo.Hoja.Left, sesion.visorAncho, dibujo.RelacionZoom);
     conservarCentro(dibujo.Hoja.Top, sesion.visorAlto, dibujo.RelacionZoom);
     ActualizarBarras(sesion);

@@ -15,6 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::uintmax_t mayorLegible = std::uintmax_t{1} << 30U;  // bytes; no drawing comes near it
 constexpr int enlacesSeguidos = 40;
 constexpr int nombresProbados = 100;
 constexpr mode_t permisosDeUnoNuevo = 0666;  // less the process's mask
@@ -107,7 +108,7 @@ std::optional<std::string> leerArchivo(const fs::path& ruta) {
     if (estado.type() != fs::file_type::regular) return std::nullopt;
     const std::uintmax_t largo = fs::file_size(ruta, error);
     std::ifstream archivo(ruta, std::ios::binary);
-    if (error || !archivo) return std::nullopt;
+    if (error || !archivo || largo > mayorLegible) return std::nullopt;
     std::string bytes(largo, '\0');
     archivo.read(bytes.data(), static_cast<std::streamsize>(largo));
     if (archivo.bad()) return std::nullopt;

@@ -3,7 +3,7 @@
 #include "output/image_crop.h"
 #include "ui/unidades.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QImage>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -63,6 +63,9 @@ void HojaSalidaWidget::situar() {
 }
 
 void HojaSalidaWidget::repetirPuntero() {
+    // A box that came in front has swallowed the release.
+    const QWidget* delante = QApplication::activeModalWidget();
+    if (delante && delante != window()) botones_ = Qt::NoButton;
     if (botones_ == Qt::NoButton || !isVisible()) return;
     QCoreApplication::postEvent(this, new QMouseEvent(QEvent::MouseMove, mapFromGlobal(puntero_), puntero_,
                                                       Qt::NoButton, botones_, Qt::NoModifier));

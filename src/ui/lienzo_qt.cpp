@@ -65,6 +65,8 @@ void LienzoQt::pintarHoja(int ancho, int alto, const std::function<void(Superfic
 }
 
 void LienzoQt::recortar(const AreaSalida& area) {
+    // The old one goes first: each may be as large as the sheet.
+    RecorteSalida_ = {};
     RecorteSalida_ = papelBlanco(area.ancho, area.alto);
     if (!RecorteSalida_.isNull()) QPainter(&RecorteSalida_).drawImage(-area.left, -area.top, HojaSalida_);
 }
@@ -88,6 +90,7 @@ void LienzoQt::tomarDelPortapapeles() {
 
 void LienzoQt::vistaPrevia(const Papel& papel) {
     VistaPrevia(Image1_, papel, QApplication::activeModalWidget()).exec();
+    Image1_ = {};
 }
 
 void LienzoQt::guardar(const std::filesystem::path& ruta, Profundidad profundidad) {

@@ -44,7 +44,7 @@ TEST(Principal, LosBotonesTienenSuLugarYSuRotulo) {
                                                        "Zoom",     "Definir", "Opciones", "Eliminar",
                                                        "Imprimir", "Salir",   "Colores"};
     for (std::size_t i = 0; i < rotulos.size(); ++i)
-        EXPECT_EQ(BttPrincipal[i].rotulo, rotulos[i]);
+        EXPECT_EQ(BttPrincipal[i], rotulos[i]);
     EXPECT_EQ(static_cast<int>(Principal::Zoom), 4);
     EXPECT_EQ(static_cast<int>(Principal::Colores), 10);
 }
