@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <string>
 #include <unistd.h>
 
@@ -137,10 +138,12 @@ class Programa {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t cuantos) {
     static const Carpeta carpeta;
-    const fs::path entrada = carpeta / "entrada.bqr", salida = carpeta / "salida.bqr";
-    std::ofstream(entrada, std::ios::binary)
-        .write(reinterpret_cast<const char*>(datos), static_cast<std::streamsize>(cuantos));
-
+    const fs::path entrada = carpeta / "entrada.bqr";
+    const fs::path salida = carpeta / "salida.bqr";
+    {
+        std::ofstream archivo(entrada, std::ios::binary);
+        std::copy_n(datos, cuantos, std::ostreambuf_iterator<char>(archivo));
+    }
     if (elementosQuePromete(entrada) > muchos) return 0;
 
     Programa programa(carpeta.ruta());

@@ -4,7 +4,7 @@
 #include <iostream>
 #include <iterator>
 #include <span>
-#include <string>
+#include <vector>
 
 // Stands in for the fuzzer where there is none: what it would try, once, from the files that are named.
 
@@ -18,8 +18,8 @@ int main(int cuantos, char** argumentos) {
             return 1;
         }
         std::cout << nombre << std::endl;
-        const std::string bytes(std::istreambuf_iterator<char>(archivo), {});
-        LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
+        const std::vector<std::uint8_t> bytes(std::istreambuf_iterator<char>(archivo), {});
+        LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
     }
     return cuantos > 1 ? 0 : 2;
 }

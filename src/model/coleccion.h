@@ -7,6 +7,7 @@
 #include <deque>
 #include <limits>
 #include <optional>
+#include <utility>
 
 namespace bosquel {
 
@@ -54,16 +55,22 @@ class Coleccion {
         return hayIndice ? &crear(contador) : nullptr;
     }
 
-    /// Leaves a hole; the model stays.
+    /// Leaves a hole; the model stays. Holes at the end take no room.
     void quitar(int indice) {
         if (indice > 0 && existe(indice)) huecos_[posicion(indice)].reset();
+        while (!huecos_.back())
+            huecos_.pop_back();
     }
 
     /// The highest index that holds an element; 0 if only the model is there.
-    int ultimo() const {
-        for (auto i = huecos_.size() - 1; i > 0; --i)
-            if (huecos_[i]) return static_cast<int>(i);
-        return 0;
+    int ultimo() const { return static_cast<int>(huecos_.size()) - 1; }
+
+    /// The first real element of which `vale(elemento)` is true; nullptr if there is none.
+    template <class Vale>
+    T* primero(Vale vale) {
+        for (std::size_t i = 1; i < huecos_.size(); ++i)
+            if (huecos_[i] && vale(std::as_const(*huecos_[i]))) return &*huecos_[i];
+        return nullptr;
     }
 
     /// Calls `paso(indice, elemento)` for all that exist from `desde` to `hasta`, both included, in rising
@@ -80,11 +87,11 @@ class Coleccion {
     /// All real elements, whatever the counter says.
     template <class Paso>
     void recorrer(Paso paso) {
-        recorrerEn(*this, 1, static_cast<int>(huecos_.size()) - 1, paso);
+        recorrerEn(*this, 1, ultimo(), paso);
     }
     template <class Paso>
     void recorrer(Paso paso) const {
-        recorrerEn(*this, 1, static_cast<int>(huecos_.size()) - 1, paso);
+        recorrerEn(*this, 1, ultimo(), paso);
     }
 
   private:
@@ -92,12 +99,12 @@ class Coleccion {
 
     template <class Propia, class Paso>
     static void recorrerEn(Propia& propia, int desde, int hasta, Paso& paso) {
-        const int fin = std::min(hasta, static_cast<int>(propia.huecos_.size()) - 1);
+        const int fin = std::min(hasta, propia.ultimo());
         for (int i = std::max(desde, 0); i <= fin; ++i)
             if (auto* elemento = propia.en(i)) paso(i, *elemento);
     }
 
-    std::deque<std::optional<T>> huecos_;
+    std::deque<std::optional<T>> huecos_;  ///< the last one never is a hole
 };
 
 }  // namespace bosquel

@@ -20,10 +20,8 @@ void eliminaAbertura(Dibujo& dibujo, Coleccion<Abertura>& coleccion, int indice)
     dibujo.sucia.anadirTodo();
     if (grupo != 0) return;
 
-    Abertura* heredera = nullptr;
-    coleccion.recorrer([&](int, Abertura& otra) {
-        if (!heredera && otra.NumeroPared == pared) heredera = &otra;
-    });
+    Abertura* heredera =
+        coleccion.primero([pared](const Abertura& otra) { return otra.NumeroPared == pared; });
     if (heredera) {
         heredera->GrupoInicialPared = 0;
     } else if (Pared* libre = dibujo.Pared.en(pared)) {

@@ -114,6 +114,36 @@ TEST(Coleccion, UnPasoPuedeQuitarLoQueVisitaYLoQueViene) {
     EXPECT_EQ(coleccion.ultimo(), 0);
 }
 
+TEST(Coleccion, ElUltimoEsElMayorIndiceQueQueda) {
+    Coleccion<std::string> coleccion;
+    for (const int i : {2, 5, 9})
+        coleccion.crear(i);
+    EXPECT_EQ(coleccion.ultimo(), 9);
+    coleccion.quitar(5);
+    EXPECT_EQ(coleccion.ultimo(), 9);
+    coleccion.quitar(9);
+    EXPECT_EQ(coleccion.ultimo(), 2);
+    coleccion.quitar(2);
+    EXPECT_EQ(coleccion.ultimo(), 0);
+    coleccion.crear(7) = "otra vez";
+    EXPECT_EQ(coleccion.ultimo(), 7);
+    EXPECT_FALSE(coleccion.existe(5));
+}
+
+TEST(Coleccion, ElPrimeroQueValeNoEsElModelo) {
+    Coleccion<std::string> coleccion;
+    for (const int i : {1, 3, 4})
+        coleccion.crear(i) = std::to_string(i);
+    coleccion.modelo() = "4";
+    const auto es = [](const char* cual) {
+        return [cual](const std::string& texto) { return texto == cual; };
+    };
+    EXPECT_EQ(coleccion.primero(es("4")), coleccion.en(4));
+    EXPECT_EQ(coleccion.primero(es("2")), nullptr);
+    coleccion.quitar(1);
+    EXPECT_EQ(coleccion.primero([](const std::string&) { return true; }), coleccion.en(3));
+}
+
 TEST(Coleccion, LasReferenciasSobrevivenALoQueSeCrea) {
     Coleccion<std::string> coleccion;
     const std::string& primera = coleccion.crear(1);
