@@ -122,7 +122,7 @@ QVariant PaginaAyuda::loadResource(int tipo, const QUrl& nombre) {
 /// roughly.
 QImage PaginaAyuda::imagen(const QByteArray& bytes) const {
     const QImage leida = QImage::fromData(bytes);
-    if (leida.isNull()) return leida;
+    if (leida.isNull()) return {};
     const int finura = std::clamp(leida.dotsPerMeterX(), puntosPorMetro, 4 * puntosPorMetro);
     const double natural = static_cast<double>(leida.width()) * porcentaje_ / 100 * puntosPorMetro / finura;
     const double ancho = std::clamp<double>(natural, 1, std::max(1, lineWrapColumnOrWidth() - 2 * margen));
