@@ -15,7 +15,7 @@
 #include <unistd.h>
 
 // The library believes what a file says of itself: a damaged one makes it divide by zero, go round for ever
-// or write where it should not. So a process of its own reads, and what comes out of it is taken if it ends
+// or read where there is nothing. So a process of its own reads, and what comes of it is taken if it ends
 // well.
 
 namespace bosquel {
@@ -35,8 +35,8 @@ int leerObjeto(chmFile* archivo, chmUnitInfo* objeto, void* lectura_) {
     if (objeto->length > tamanoMaximo - lectura.tamano) return CHM_ENUMERATOR_FAILURE;
     lectura.tamano += objeto->length;
     QByteArray bytes(static_cast<qsizetype>(objeto->length), '\0');
-    const LONGINT64 leidos =
-        chm_retrieve_object(archivo, objeto, reinterpret_cast<unsigned char*>(bytes.data()), 0, bytes.size());
+    auto* destino = static_cast<unsigned char*>(static_cast<void*>(bytes.data()));
+    const LONGINT64 leidos = chm_retrieve_object(archivo, objeto, destino, 0, bytes.size());
     if (leidos != bytes.size()) return CHM_ENUMERATOR_FAILURE;
     lectura.objetos.insert(QString::fromUtf8(objeto->path).mid(1), bytes);
     return CHM_ENUMERATOR_CONTINUE;
@@ -46,7 +46,7 @@ bool leerTodo(const char* ruta, int salida) {
     chmFile* archivo = chm_open(ruta);
     if (!archivo) return false;
     Lectura lectura;
-    if (!chm_enumerate(archivo, CHM_ENUMERATE_NORMAL | CHM_ENUMERATE_FILES, leerObjeto, &lectura))
+    if (chm_enumerate(archivo, CHM_ENUMERATE_NORMAL | CHM_ENUMERATE_FILES, leerObjeto, &lectura) == 0)
         return false;
     QFile tuberia;
     if (!tuberia.open(salida, QIODevice::WriteOnly)) return false;
@@ -55,17 +55,14 @@ bool leerTodo(const char* ruta, int salida) {
     return corriente.status() == QDataStream::Ok && tuberia.flush();
 }
 
-void limitar(int recurso, rlim_t limite) {
-    const rlimit limites{limite, limite};
-    setrlimit(static_cast<__rlimit_resource>(recurso), &limites);
-}
-
 /// Whatever befalls this process, nobody hears of it.
 [[noreturn]] void leerAparte(const char* ruta, int salida) {
     for (const int senal : {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT})
         std::signal(senal, SIG_DFL);
-    limitar(RLIMIT_CORE, 0);
-    limitar(RLIMIT_CPU, segundosMaximos);
+    const rlimit sinVolcado{0, 0};
+    const rlimit calculo{segundosMaximos, segundosMaximos};
+    setrlimit(RLIMIT_CORE, &sinVolcado);
+    setrlimit(RLIMIT_CPU, &calculo);
     close(STDERR_FILENO);
     _exit(leerTodo(ruta, salida) ? EXIT_SUCCESS : EXIT_FAILURE);
 }

@@ -22,15 +22,33 @@ constexpr int anchoLateral = 280, margen = 8, separacion = 6;  // px
 constexpr int ladoIcono = 20;                                  // px
 constexpr auto papelImagen = "imagen";
 
-}  // namespace
-
 /// A button of the strip. One with a picture alone says its name to those who do not see it.
-struct AyudaForma::Mando {
+struct Mando {
     const char* nombre;
     const char* rotulo;
     const char* imagen;
     bool conRotulo;
 };
+
+QToolButton* poner(QHBoxLayout& fila, const Mando& mando) {
+    auto* boton = new QToolButton;
+    boton->setObjectName(mando.nombre);
+    boton->setAutoRaise(true);
+    boton->setFocusPolicy(Qt::TabFocus);
+    boton->setIconSize({ladoIcono, ladoIcono});
+    boton->setProperty(papelImagen, mando.imagen);
+    boton->setAccessibleName(leido(mando.rotulo));
+    if (mando.conRotulo) {
+        boton->setText(mando.rotulo);
+        boton->setToolButtonStyle(mando.imagen ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonTextOnly);
+    } else {
+        boton->setToolTip(mando.rotulo);
+    }
+    fila.addWidget(boton);
+    return boton;
+}
+
+}  // namespace
 
 AyudaForma::AyudaForma(const ArchivoAyuda& archivo)
     : lateral_(new AyudaLateral(archivo)), pagina_(nombrar(new PaginaAyuda(archivo), "Pagina")) {
@@ -96,24 +114,6 @@ QWidget* AyudaForma::franja() {
     connect(tamano, &QToolButton::clicked, pagina_, [this] { pagina_->escalarNormal(); });
     connect(aumentar, &QToolButton::clicked, pagina_, [this] { pagina_->ampliar(1); });
     return franja;
-}
-
-QToolButton* AyudaForma::poner(QHBoxLayout& fila, const Mando& mando) {
-    auto* boton = new QToolButton;
-    boton->setObjectName(mando.nombre);
-    boton->setAutoRaise(true);
-    boton->setFocusPolicy(Qt::TabFocus);
-    boton->setIconSize({ladoIcono, ladoIcono});
-    boton->setProperty(papelImagen, mando.imagen);
-    boton->setAccessibleName(leido(mando.rotulo));
-    if (mando.conRotulo) {
-        boton->setText(mando.rotulo);
-        boton->setToolButtonStyle(mando.imagen ? Qt::ToolButtonTextBesideIcon : Qt::ToolButtonTextOnly);
-    } else {
-        boton->setToolTip(mando.rotulo);
-    }
-    fila.addWidget(boton);
-    return boton;
 }
 
 void AyudaForma::ponerIconos() {

@@ -4,9 +4,6 @@
 
 #include <QWidget>
 
-class QHBoxLayout;
-class QToolButton;
-
 namespace bosquel {
 
 class AyudaLateral;
@@ -26,10 +23,7 @@ class AyudaForma final : public QWidget {
     void changeEvent(QEvent* suceso) override;
 
   private:
-    struct Mando;
-
     QWidget* franja();
-    QToolButton* poner(QHBoxLayout& fila, const Mando& mando);
     void ponerIconos();
     void ponerAtajos();
     void escapar();

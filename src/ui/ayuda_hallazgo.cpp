@@ -39,8 +39,8 @@ void DelegadoHallazgo::paint(QPainter* pintor, const QStyleOptionViewItem& opcio
     const QStyle& estilo = *opcion.widget->style();
     estilo.drawControl(QStyle::CE_ItemViewItem, &fondo, pintor, opcion.widget);
 
-    const bool elegido = opcion.state & QStyle::State_Selected;
-    const auto grupo = opcion.state & QStyle::State_Active ? QPalette::Active : QPalette::Inactive;
+    const bool elegido = opcion.state.testFlag(QStyle::State_Selected);
+    const auto grupo = opcion.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
     QRect sitio = opcion.rect.adjusted(aire, aire, -aire, -aire);
     pintor->save();
     pintor->setPen(opcion.palette.color(grupo, elegido ? QPalette::HighlightedText : QPalette::Text));

@@ -121,8 +121,9 @@ QVariant PaginaAyuda::loadResource(int tipo, const QUrl& nombre) {
 /// No wider than the text. Scaled here, smoothly and to the pixels of the screen: the document would do it
 /// roughly.
 QImage PaginaAyuda::imagen(const QByteArray& bytes) const {
-    const QImage leida = QImage::fromData(bytes);
-    if (leida.isNull()) return leida;
+    // With a palette of its own, a picture would be scaled in the colours of the palette.
+    const QImage leida = QImage::fromData(bytes).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (leida.isNull()) return {};
     const int finura = std::clamp(leida.dotsPerMeterX(), puntosPorMetro, 4 * puntosPorMetro);
     const double natural = static_cast<double>(leida.width()) * porcentaje_ / 100 * puntosPorMetro / finura;
     const double ancho = std::clamp<double>(natural, 1, std::max(1, lineWrapColumnOrWidth() - 2 * margen));

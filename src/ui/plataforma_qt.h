@@ -13,6 +13,8 @@ class VentanaBosquel;
 class PlataformaQt final : public Plataforma {
   public:
     PlataformaQt();
+    PlataformaQt(const PlataformaQt&) = delete;
+    PlataformaQt& operator=(const PlataformaQt&) = delete;
     ~PlataformaQt() override;
 
     /// The window that messages and dialogs belong to, and in which the view is shown; none before it exists.

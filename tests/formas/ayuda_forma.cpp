@@ -30,9 +30,7 @@ QByteArray linea(const char* nombre, const char* destino) {
         .toUtf8();
 }
 
-QByteArray cuadro(QSize tamano, int puntosPorMetro) {
-    QImage imagen(tamano, QImage::Format_RGB32);
-    imagen.fill(Qt::red);
+QByteArray png(QImage imagen, int puntosPorMetro) {
     imagen.setDotsPerMeterX(puntosPorMetro);
     imagen.setDotsPerMeterY(puntosPorMetro);
     QByteArray bytes;
@@ -40,6 +38,26 @@ QByteArray cuadro(QSize tamano, int puntosPorMetro) {
     salida.open(QIODevice::WriteOnly);
     imagen.save(&salida, "PNG");
     return bytes;
+}
+
+QImage rojo(QSize tamano) {
+    QImage imagen(tamano, QImage::Format_RGB32);
+    imagen.fill(Qt::red);
+    return imagen;
+}
+
+/// All the colours of a palette at the left, more than which come of mixing them, and one of them at the
+/// right.
+QImage conPaleta() {
+    QImage imagen(100, 100, QImage::Format_Indexed8);
+    QList<QRgb> colores;
+    for (int i = 0; i < 200; ++i)
+        colores += qRgb(238 - i, 238 - 7 * i % 200, 238 - 13 * i % 200);
+    imagen.setColorTable(colores);
+    for (int x = 0; x < imagen.width(); ++x)
+        for (int y = 0; y < imagen.height(); ++y)
+            imagen.setPixel(x, y, static_cast<uint>(x < 50 ? (x * x + 31 * y) % 200 : 0));
+    return imagen;
 }
 
 ArchivoAyuda archivoDePrueba() {
@@ -50,8 +68,9 @@ ArchivoAyuda archivoDePrueba() {
                                          <h2><a name="sitio">Sitio</a></h2><p>Otro muro.</p>)")},
             {"larga.html", pagina("Larga", QByteArray("<p>Línea.</p>").repeated(200).constData())},
             {"ancha.html", pagina("Ancha", R"(<p><img src="imagenes/ancha.png"></p>)")},
-            {"imagenes/rojo.png", cuadro({200, 100}, 7560)},
-            {"imagenes/ancha.png", cuadro({3000, 100}, 3780)},
+            {"imagenes/rojo.png", png(rojo({200, 100}), 7560)},
+            {"imagenes/paleta.png", png(conPaleta(), 7560)},
+            {"imagenes/ancha.png", png(rojo({3000, 100}), 3780)},
             {"a.hhc",
              "<ul>" + linea("Primera", "uno.html") + "<ul>" + linea("Segunda", "dos.html") + "</ul></ul>"},
             {"a.hhk", "<ul>" + linea("bañera", "uno.html") + linea("sitio", "dos.html#sitio") + "</ul>"}};
@@ -88,11 +107,11 @@ struct AyudaFormaPrueba : testing::Test {
             titulos += lista.item(i)->text().section('\n', 0, 0);
         return titulos;
     }
-    QSizeF tamanoDeImagen() {
-        const QVariant imagen =
-            pagina().loadResource(QTextDocument::ImageResource, QUrl("chm:/imagenes/rojo.png"));
-        return imagen.value<QImage>().deviceIndependentSize();
+    QImage imagen(const char* nombre) {
+        const QUrl url(QString("chm:/imagenes/%1.png").arg(nombre));
+        return pagina().loadResource(QTextDocument::ImageResource, url).value<QImage>();
     }
+    QSizeF tamanoDeImagen() { return imagen("rojo").deviceIndependentSize(); }
 };
 
 }  // namespace
@@ -235,6 +254,14 @@ TEST_F(AyudaFormaPrueba, UnaImagenNoEsMasAnchaQueElTexto) {
         EXPECT_GT(pagina().document()->idealWidth(), 0.9 * std::min(720, pagina().viewport()->width()))
             << ancho;
     }
+}
+
+TEST_F(AyudaFormaPrueba, UnaImagenConPaletaSeReduceConLosColoresQueHagaFalta) {
+    pulsar("BttReducir");
+    const QImage reducida = imagen("paleta");
+    ASSERT_EQ(reducida.size(), QSize(45, 45));
+    for (int x = 25; x < 45; ++x)
+        EXPECT_EQ(reducida.pixelColor(x, 20), QColor(238, 238, 238)) << x;
 }
 
 TEST_F(AyudaFormaPrueba, EscapeDejaPrimeroLaBusquedaYDespuesLaVentana) {
