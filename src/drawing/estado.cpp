@@ -7,8 +7,7 @@ namespace bosquel {
 std::string_view indicacion(Modo modo) {
     switch (modo) {
         case Modo::Aspa: return "Arrastre sobre la hoja para desplazarla.";
-        case Modo::Flecha:
-            return "Arrastre el tirador de una pared para moverla; doble clic para ver las propiedades.";
+        case Modo::Flecha: return "Arrastre para mover; doble clic para ver las propiedades.";
         case Modo::Seleccion: return "Elija la pared de la que trazar la paralela.";
         case Modo::PrimeraPared: return "Elija la primera pared de la esquina.";
         case Modo::SegundaPared: return "Elija la segunda pared de la esquina.";

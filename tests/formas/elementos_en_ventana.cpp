@@ -1,4 +1,5 @@
 #include "formas/ventana_de_prueba.h"
+#include "furnishing/recuadro.h"
 
 #include <QLineEdit>
 
@@ -9,6 +10,14 @@ namespace {
 class ElementosEnVentana : public apoyo::VentanaDePrueba {
   protected:
     QLineEdit& editor() { return control<QLineEdit>("TextoLibre_1"); }
+
+    /// The pointer passes over the sheet without a button.
+    void cruzarHoja(QPoint punto) {
+        QWidget& hoja = control("Hoja");
+        QMouseEvent paso(QEvent::MouseMove, QPointF(punto), hoja.mapToGlobal(QPointF(punto)), Qt::NoButton,
+                         Qt::NoButton, {});
+        QApplication::sendEvent(&hoja, &paso);
+    }
 
     void arrastrar(QPoint de, QPoint a) {
         QWidget& hoja = control("Hoja");
@@ -30,6 +39,77 @@ TEST_F(ElementosEnVentana, UnMuebleDeLaPaletaSeArrastra) {
     ASSERT_TRUE(silla);
     EXPECT_EQ(silla->Left, 1500.0F);
     EXPECT_EQ(silla->Top, 750.0F);
+}
+
+/// The window of buttons on which a kind is made, and its button.
+QString botonDe(const DatosClase& fila) {
+    constexpr std::array<const char*, 6> grupos{"BttMueble",  "BttBaño",      "BttCocina",
+                                                "BttUsuario", "BttElectrico", "BttTipo"};
+    return QString("%1_%2").arg(grupos.at(static_cast<std::size_t>(fila.grupo))).arg(fila.boton);
+}
+
+QString selectorDe(Grupo grupo) {
+    constexpr std::array<int, 5> selectores{0, 1, 2, 3, 5};
+    return QString("BttTipo_%1").arg(selectores.at(static_cast<std::size_t>(grupo)));
+}
+
+TEST_F(ElementosEnVentana, CadaBotonDeCadaPaletaHaceLoSuyoQueSeArrastraSeDefineYSeElimina) {
+    for (const DatosClase& fila : todasLasClases()) {
+        const bool mueble = fila.clase <= Clase::MblVertedero;
+        if (!mueble && fila.clase != Clase::Electrico) continue;
+        SCOPED_TRACE(fila.nombre);
+        pulsar(selectorDe(fila.grupo));
+        pulsar(botonDe(fila));
+        const Referencia cual{fila.clase, 1};
+        const Situado* hecho = situado(dibujo(), cual);
+        ASSERT_TRUE(hecho);
+        const auto caja = recuadroDe(dibujo(), fila.clase, 1);
+        const QPoint centro((QPointF(caja->Width, caja->Height) / 30).toPoint());
+        arrastrar(centro, centro + QPoint(100, 50));
+        EXPECT_EQ(hecho->Left, 1500.0F);
+        EXPECT_EQ(hecho->Top, 750.0F);
+        bool abierto = false;
+        cuandoSeAbra<QDialog>([&](QDialog& dialogo) {
+            abierto = dialogo.objectName() == QString::fromUtf8(fila.dialogo.data());
+            dialogo.reject();
+        });
+        QTest::mouseDClick(&control("Hoja"), Qt::LeftButton, {}, centro + QPoint(100, 50));
+        EXPECT_EQ(abierto, fila.dobleClic == DobleClic::enElActo) << "before the event has ended";
+        ASSERT_TRUE(QTest::qWaitFor([&] { return abierto; }));
+        pulsar("BttPrincipal_7");
+        EXPECT_EQ(situado(dibujo(), cual), nullptr);
+        clicEnHoja({600, 400});
+    }
+}
+
+TEST_F(ElementosEnVentana, ElDialogoDeUnaMesaEscribeEnElArchivo) {
+    pulsar("BttTipo_0");
+    pulsar("BttMueble_0");
+    cuandoSeAbra<QDialog>([](QDialog& dialogo) {
+        dialogo.findChild<QLineEdit*>("TxtMesaX")->setText("1,60");
+        QTest::mouseClick(dialogo.findChild<QWidget*>("OptSillas_2"), Qt::LeftButton);
+        QTest::mouseClick(dialogo.findChild<QWidget*>("Dist2_0"), Qt::LeftButton);
+        QTest::mouseClick(dialogo.findChild<QWidget*>("Command1"), Qt::LeftButton);
+    });
+    pulsar("BttPrincipal_5");
+    EXPECT_EQ(dibujo().MblMesa.en(1)->MesaDimX, 1600);
+    EXPECT_EQ(dibujo().MblMesa.en(1)->ColocacionSillas, "2UD");
+    GuardarDibujo(bosquel.sesion(), carpeta / "AutoSave.bqr");
+    const std::string bytes = apoyo::bytesDe(carpeta / "AutoSave.bqr");
+    EXPECT_NE(bytes.find("ColocacionSillas=2UD\r\n"), std::string::npos);
+    EXPECT_NE(bytes.find("MesaDimX=1600\r\n"), std::string::npos);
+}
+
+TEST_F(ElementosEnVentana, ElImanAjustaEnElSiguientePaso) {
+    pulsar("BttTipo_0");
+    pulsar("BttMueble_1");
+    dibujo().Iman = true;
+    arrastrar({7, 7}, {17, 7});
+    ASSERT_EQ(dibujo().MblSilla.en(1)->Left, 150.0F);
+    dibujo().MblSilla.en(1)->Left = 149;
+    anunciar(dibujo(), Clase::MblSilla, 1);
+    cruzarHoja({17, 7});
+    EXPECT_EQ(dibujo().MblSilla.en(1)->Left, 100.0F);
 }
 
 TEST_F(ElementosEnVentana, UnTextoSeEscribeDondeEsta) {

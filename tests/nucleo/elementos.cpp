@@ -1,5 +1,6 @@
 #include "apoyo/banco.h"
 #include "furnishing/recuadro.h"
+#include "openings/puerta_prop.h"
 
 #include <gtest/gtest.h>
 
@@ -202,10 +203,12 @@ TEST_F(Elementos, EliminarDosVecesNoHaceNadaLaSegunda) {
 }
 
 TEST_F(Elementos, SuprimirSinNadaElegidoSoloQuitaElMarco) {
-    Banco vacio;
-    vacio.suprimir();
-    EXPECT_FALSE(vacio.marco().Visible);
-    EXPECT_TRUE(vacio.plataforma.mensajes.empty());
+    banco.clic({1100, 2100});
+    banco.boton("Eliminar");
+    ASSERT_TRUE(banco.marco().Visible);
+    banco.suprimir();
+    EXPECT_FALSE(banco.marco().Visible);
+    EXPECT_TRUE(banco.plataforma.mensajes.empty());
 }
 
 TEST_F(Elementos, SuprimirEnMedioDeUnArrastreNoDejaRastro) {
@@ -232,6 +235,40 @@ TEST_F(Elementos, ElMarcoSigueAlElementoEnElZoom) {
     EXPECT_FLOAT_EQ(silla().Left, 2000);
     EXPECT_EQ(silla().FactorZOOM, 1);
     EXPECT_EQ(banco.marco().recuadro, (Recuadro{1985, 3985, 480, 480}));
+}
+
+TEST_F(Elementos, SoltarSobreUnElementoNoColocaLaPared) {
+    banco.bosquel.pulsarElectrico(0);
+    ponerEn(*banco.dibujo().Electrico.en(1), 5000, 5000);
+    banco.boton("Texto");
+    ponerEn(*banco.dibujo().TextoLibre.en(1), 7000, 7000);
+    banco.boton("Muro");
+    for (const Punto punto : {Punto{1100, 2100}, Punto{5050, 5050}, Punto{7050, 7020}})
+        banco.clic(punto);
+    EXPECT_EQ(banco.modo(), Modo::Pared);
+    EXPECT_EQ(banco.plataforma.dialogosDePared, 0);
+}
+
+TEST_F(Elementos, ElZoomDeUnDibujoConAberturasQuitaLaEleccion) {
+    banco.ponMuro({.inicio = {3000, 6000}});
+    banco.plataforma.alAbrirPuerta = [](PuertaProp& dialogo) { dialogo.Aplicar(); };
+    banco.boton("Puerta");
+    banco.clic(banco.medio(1));
+    banco.clic({1100, 2100});
+    ASSERT_TRUE(banco.marco().Visible);
+    banco.boton("Zoom");
+    EXPECT_FALSE(banco.marco().Visible);
+    EXPECT_FALSE(banco.sesion().foco);
+    banco.clic({2200, 4200});
+    EXPECT_EQ(banco.dibujo().ElementoActual, Clase::MblSilla);
+    EXPECT_TRUE(banco.marco().Visible);
+}
+
+TEST_F(Elementos, LoQueNoDibujaNadaSePuedeCoger) {
+    silla().Orientacion = "?";
+    ponerEn(silla(), 1000, 2000);
+    banco.clic({1100, 2100});
+    EXPECT_EQ(banco.dibujo().ElementoActual, Clase::MblSilla);
 }
 
 TEST_F(Elementos, UnSimboloSeEligePorSuResalte) {
