@@ -19,6 +19,7 @@ procesoPrograma=
 ventana=
 origenX=0
 origenY=0
+calma=0.15 # seconds of rest after each thing that the hand has done
 
 mal() {
     printf 'MAL: %s\n' "$*" >&2
@@ -77,7 +78,31 @@ abrirPantalla() {
     hasta "$espera" test -s "$taller/pantalla" || mal "Xvfb no arranca: $(cat "$taller/xvfb.txt")"
     DISPLAY=:$(<"$taller/pantalla")
     export DISPLAY
-    unset WAYLAND_DISPLAY XAUTHORITY
+    unset WAYLAND_DISPLAY XAUTHORITY QT_IM_MODULE XMODIFIERS
+    ponerLetras
+    # A keyboard that has the letters of Spanish: those that it has not xdotool puts there for one stroke only,
+    # which a slow program looks up too late.
+    timeout "$espera" setxkbmap us altgr-intl || mal "el teclado no cambia"
+}
+
+# The same letters on every machine, whatever fonts it has: where things stand in a dialog follows from
+# them.
+ponerLetras() {
+    local dejavu=/usr/share/fonts/truetype/dejavu
+    [[ -d $dejavu ]] || mal "faltan las letras DejaVu"
+    cat >"$taller/letras.conf" <<FIN
+<?xml version="1.0"?>
+<!DOCTYPE fontconfig SYSTEM "fonts.dtd">
+<fontconfig>
+  <include ignore_missing="yes">/etc/fonts/conf.d</include>
+  <dir>$dejavu</dir>
+  <cachedir>$taller/letras</cachedir>
+  <match target="pattern">
+    <edit name="family" mode="prepend_first" binding="strong"><string>DejaVu Sans</string></edit>
+  </match>
+</fontconfig>
+FIN
+    export FONTCONFIG_FILE=$taller/letras.conf
 }
 
 # arrancar PROGRAMA [ARGUMENTO...]: a copy of it in a folder of its own, so that what it keeps beside itself
@@ -104,10 +129,10 @@ arrancar() {
 
 corre() { kill -0 "$procesoPrograma" 2>/dev/null; }
 
-# salioBien [SEGUNDOS]: waits until the program has ended, and takes its result.
+# Waits until the program has ended, and takes its result.
 salioBien() {
     local resultado=0
-    hasta "${1:-$espera}" noCorre || mal "el programa no termina"
+    hasta "$espera" noCorre || mal "el programa no termina"
     wait "$procesoPrograma" || resultado=$?
     procesoPrograma=
     ((resultado == 0)) || mal "el programa ha terminado con $resultado"
@@ -136,6 +161,17 @@ medidas() {
     eval "$(grep -E '^(X|Y|WIDTH|HEIGHT)=-?[0-9]+$' <<<"$valores")"
 }
 
+# redimensionar VENTANA ANCHO ALTO
+redimensionar() {
+    timeout "$espera" xdotool windowsize "$1" "$2" "$3" || mal "la ventana no cambia de tamaño"
+    hasta "$espera" mide "$1" "$2" "$3" || mal "la ventana no llega a $2x$3"
+}
+mide() {
+    local X Y WIDTH HEIGHT
+    medidas "$1"
+    ((WIDTH == $2 && HEIGHT == $3))
+}
+
 # situarEn VENTANA [X Y]: from here on, coordinates are counted from this place within the window. Without a
 # window manager nobody else gives the keyboard to a window.
 situarEn() {
@@ -149,7 +185,7 @@ situarEn() {
 }
 
 # A moment for the program to take in what was done to it.
-pausa() { sleep "${1:-0.15}"; }
+pausa() { sleep "${1:-$calma}"; }
 
 mover() { timeout "$espera" xdotool mousemove $((origenX + escala * $1)) $((origenY + escala * $2)); pausa 0.05; }
 
@@ -182,8 +218,36 @@ arrastrar() {
 teclear() { timeout "$espera" xdotool type --delay 20 -- "$1"; pausa; }
 tecla() { timeout "$espera" xdotool key --delay 40 "$@"; pausa; }
 
+# dialogo TITULO: from here on, keys and coordinates are those of this window.
+dialogo() {
+    esperarVentana "$1"
+    situarEn "$ventana"
+}
+
+# responder TITULO TECLA: with the key that closes this window.
+responder() {
+    dialogo "$1"
+    tecla "$2"
+    esperarCierre "$1"
+}
+
+# elegirFichero TITULO FICHERO: types the name into the file dialog.
+elegirFichero() {
+    dialogo "$1"
+    tecla ctrl+a
+    teclear "$2"
+    responder "$1" Return
+}
+
 # captura FICHERO.png [VENTANA]
 captura() { timeout "$espera" import -silent -window "${2:-root}" "$1" || mal "no sale la captura $1"; }
+
+# foto NOMBRE [VENTANA]: a screenshot for who wants to look at the session, in the folder CAPTURAS.
+foto() {
+    [[ -n ${CAPTURAS:-} ]] || return 0
+    mkdir -p "$CAPTURAS"
+    captura "$CAPTURAS/$1.png" "${2:-root}"
+}
 
 # colorEn X Y: the colour of a pixel, counted as for a click, as rrggbb.
 colorEn() {
@@ -191,8 +255,57 @@ colorEn() {
     convert "$taller/pixel.png" -crop "1x1+$((origenX + escala * $1))+$((origenY + escala * $2))" -depth 8 rgb:- | od -An -tx1 | tr -d ' \n'
 }
 
+# recorte FICHERO.png X Y ANCHO ALTO: a part of the screen, counted as for a click, once it is at rest.
+recorte() {
+    unRecorte "$@"
+    hasta "$espera" enReposo "$@" || mal 'la pantalla no se está quieta'
+}
+enReposo() {
+    mv "$1" "$taller/antes.png"
+    pausa 0.2
+    unRecorte "$@"
+    (($(diferencias "$taller/antes.png" "$1") == 0))
+}
+unRecorte() {
+    captura "$taller/entera.png"
+    convert "$taller/entera.png" -crop "$4x$5+$((origenX + $2))+$((origenY + $3))" +repage "$1"
+}
+
+# esperarColor X Y COLOR, esperarOtroColor X Y COLOR: until the pixel is of this colour, or of another.
+esColor() { [[ $(colorEn "$1" "$2") == "$3" ]]; }
+noEsColor() { ! esColor "$@"; }
+esperarColor() { hasta "$espera" esColor "$@" || mal "el color en $1, $2 no es $3"; }
+esperarOtroColor() { hasta "$espera" noEsColor "$@" || mal "el color en $1, $2 sigue siendo $3"; }
+
+# coloresDe FICHERO.png: each colour of a picture once, as rrggbb.
+coloresDe() { convert "$1" -unique-colors -depth 8 rgb:- | od -An -v -tx1 -w3 | tr -d ' '; }
+
+# diferencias UNA OTRA: how many pixels of two pictures are not the same.
+diferencias() { compare -metric AE "$1" "$2" null: 2>&1 || true; }
+
+# valor FICHERO SECCION CLAVE: of a drawing or any profile file.
+valor() {
+    iconv -f WINDOWS-1252 -t UTF-8 "$1" | tr -d '\r' | awk -v seccion="[$2]" -v clave="$3=" '
+        /^\[/ { dentro = $0 == seccion }
+        dentro && index($0, clave) == 1 { print substr($0, length(clave) + 1) }'
+}
+
 # comprobar QUE ESPERADO OBTENIDO
 comprobar() {
     [[ $2 == "$3" ]] || mal "$1: se esperaba '$2' y es '$3'"
     printf 'bien: %s\n' "$1"
+}
+
+# comprobarMargen QUE ESPERADO MARGEN OBTENIDO: whole numbers that may be this far apart.
+comprobarMargen() {
+    (($4 >= $2 - $3 && $4 <= $2 + $3)) || mal "$1: se esperaba $2 ± $3 y es $4"
+    printf 'bien: %s\n' "$1"
+}
+
+# comprobarClaves FICHERO: reads lines of section, key and value, and looks for them in the profile file.
+comprobarClaves() {
+    local seccion clave esperado
+    while read -r seccion clave esperado; do
+        [[ -z $seccion ]] || comprobar "$seccion $clave" "$esperado" "$(valor "$1" "$seccion" "$clave")"
+    done
 }

@@ -3,14 +3,8 @@
 # to a folder the screenshots stay there.
 set -euo pipefail
 programa=$(realpath "${1:?el programa}")
-# shellcheck source=apoyo.sh
+# shellcheck source-path=SCRIPTDIR source=apoyo.sh
 source "$(dirname "${BASH_SOURCE[0]}")/apoyo.sh"
-
-foto() {
-    [[ -n ${CAPTURAS:-} ]] || return 0
-    mkdir -p "$CAPTURAS"
-    captura "$CAPTURAS/$1.png"
-}
 
 principal='^Nuevo\.bqr - Bosquel Rapiz$'
 
@@ -23,27 +17,14 @@ treintaGrados=(420 126) aplicar=(329 355)
 enVentana() { situarEn "$ventanaPrincipal"; }
 enHoja() { situarEn "$ventanaPrincipal" "$anchoColumna" "$altoFranja"; }
 
-# valor FICHERO CLAVE: of the first wall.
-valor() { iconv -f WINDOWS-1252 -t UTF-8 "$1" | tr -d '\r' | sed -n '/^\[Pared(1)\]/,/^$/p' | sed -n "s/^$2=//p"; }
-
-# elegir TITULO FICHERO: types the name into the file dialog.
-elegir() {
-    esperarVentana "$1"
-    situarEn "$ventana"
-    tecla ctrl+a
-    teclear "$2"
-    tecla Return
-    esperarCierre "$1"
-}
+# delMuro FICHERO CLAVE: of the first wall.
+delMuro() { valor "$1" 'Pared(1)' "$2"; }
 
 guardarComo() {
     enVentana
     clic "${guardar[@]}"
-    elegir 'Guardar dibujo' "$carpeta/$1"
-    esperarVentana '^Aviso$'
-    situarEn "$ventana"
-    tecla Return
-    esperarCierre '^Aviso$'
+    elegirFichero 'Guardar dibujo' "$carpeta/$1"
+    responder '^Aviso$' Return
 }
 
 # --- The splash closes on a click, anywhere on it.
@@ -80,34 +61,34 @@ foto 04-muro
 guardarComo piso
 piso=$carpeta/piso.bqr
 comprobar 'título al guardar' 'piso.bqr - Bosquel Rapiz' "$(titulo "$ventanaPrincipal")"
-comprobar 'ángulo' 30 "$(valor "$piso" Angulo)"
-comprobar 'longitud' 4000 "$(valor "$piso" Longitud)"
-comprobar 'línea 1, inicio x' 3000 "$(valor "$piso" Linea1X1)"
-comprobar 'línea 1, inicio y' 4500 "$(valor "$piso" Linea1Y1)"
-comprobar 'línea 1, final x' 4732,051 "$(valor "$piso" Linea1X2)"
-comprobar 'línea 1, final y' 3500 "$(valor "$piso" Linea1Y2)"
-comprobar 'línea 3, inicio x' 3050 "$(valor "$piso" Linea3X1)"
-comprobar 'línea 3, inicio y' 4586,603 "$(valor "$piso" Linea3Y1)"
-comprobar 'línea 3, final x' 4782,051 "$(valor "$piso" Linea3X2)"
-comprobar 'línea 3, final y' 3586,603 "$(valor "$piso" Linea3Y2)"
+comprobar 'ángulo' 30 "$(delMuro "$piso" Angulo)"
+comprobar 'longitud' 4000 "$(delMuro "$piso" Longitud)"
+comprobar 'línea 1, inicio x' 3000 "$(delMuro "$piso" Linea1X1)"
+comprobar 'línea 1, inicio y' 4500 "$(delMuro "$piso" Linea1Y1)"
+comprobar 'línea 1, final x' 4732,051 "$(delMuro "$piso" Linea1X2)"
+comprobar 'línea 1, final y' 3500 "$(delMuro "$piso" Linea1Y2)"
+comprobar 'línea 3, inicio x' 3050 "$(delMuro "$piso" Linea3X1)"
+comprobar 'línea 3, inicio y' 4586,603 "$(delMuro "$piso" Linea3Y1)"
+comprobar 'línea 3, final x' 4782,051 "$(delMuro "$piso" Linea3X2)"
+comprobar 'línea 3, final y' 3586,603 "$(delMuro "$piso" Linea3Y2)"
 
 # --- Dragged by its end grip, the whole wall moves; its offsets are whole sheet units.
 enHoja
 arrastrar 317 236 377 276 12
 foto 05-arrastrado
 guardarComo movido
-comprobar 'inicio x tras arrastrar' 3900,051 "$(valor "$carpeta/movido.bqr" InicialX)"
-comprobar 'inicio y tras arrastrar' 5100,301 "$(valor "$carpeta/movido.bqr" InicialY)"
+comprobar 'inicio x tras arrastrar' 3900,051 "$(delMuro "$carpeta/movido.bqr" InicialX)"
+comprobar 'inicio y tras arrastrar' 5100,301 "$(delMuro "$carpeta/movido.bqr" InicialY)"
 
 # --- Opened again, saved again: the same bytes. Three steps of the zoom come back to the first.
 enVentana
 clic "${abrir[@]}"
-elegir 'Abrir dibujo' "$piso"
+elegirFichero 'Abrir dibujo' "$piso"
 for _ in 1 2 3; do clic "${zoom[@]}"; done
 foto 06-abierto
 enVentana
 clic "${abrir[@]}"
-elegir 'Abrir dibujo' "$piso"
+elegirFichero 'Abrir dibujo' "$piso"
 guardarComo otro
 cmp "$piso" "$carpeta/otro.bqr" || mal "guardar lo abierto da otro fichero"
 comprobar 'abrir y guardar' igual igual
@@ -119,8 +100,8 @@ enVentana
 mover "${eliminar[@]}"
 tecla Delete
 guardarComo vacio
-comprobar 'muro eliminado' '' "$(valor "$carpeta/vacio.bqr" Angulo)"
-comprobar 'el contador no baja' 2 "$(tr -d '\r' <"$carpeta/vacio.bqr" | sed -n 's/^NumPared=//p')"
+comprobar 'muro eliminado' '' "$(delMuro "$carpeta/vacio.bqr" Angulo)"
+comprobar 'el contador no baja' 2 "$(valor "$carpeta/vacio.bqr" Cabecera NumPared)"
 
 # --- The program ends at once.
 enVentana
