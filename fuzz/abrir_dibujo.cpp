@@ -58,6 +58,7 @@ class PlataformaMuda : public Plataforma {
     void ponerTitulo(const std::string&) override {}
     void vistaCambiada() override {}
     void repintar(const ZonaSucia&, const ZonaSucia&) override {}
+    void mostrarAyuda(const fs::path&) override {}
     void terminar() override {}
 };
 

@@ -18,6 +18,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -222,8 +223,8 @@ void ColoresForma::ponerFila(QGridLayout* rejilla, const FilaColor& fila) {
 QCheckBox* ColoresForma::casilla(const FilaColor& fila) {
     const QString nombre = QString("%1_%2").arg(fila.grupo.casilla).arg(fila.indice);
     const QString rotulo = conLetra(fila.rotulo, fila.letra);
-    const auto alSoltar = [this, soltar = fila.grupo.soltarConControl, i = fila.indice] {
-        (logica_.*soltar)(i);
+    const auto alSoltar = [this, &grupo = fila.grupo, i = fila.indice] {
+        std::invoke(grupo.soltarConControl, logica_, i);
     };
     auto* casilla = fila.grupo.soltarConControl ? new CasillaConControl(rotulo, mostrandoTras(alSoltar))
                                                 : new QCheckBox(rotulo);
@@ -238,8 +239,9 @@ SelectorColor* ColoresForma::selector(const FilaColor& fila, const MuestraColor&
     const QString nombre = QString("%1_%2").arg(muestra.nombre).arg(fila.indice);
     auto* selector = new SelectorColor("txt" + nombre, "cmd" + nombre, muestra.leida + aQString(fila.rotulo));
     connect(selector, &SelectorColor::elegido, this,
-            [this, selector, elegir = muestra.elegir, i = fila.indice](bool conColor) {
-                (logica_.*elegir)(i, conColor ? std::optional(selector->color()) : std::nullopt);
+            [this, selector, &muestra, i = fila.indice](bool conColor) {
+                std::invoke(muestra.elegir, logica_, i,
+                            conColor ? std::optional(selector->color()) : std::nullopt);
                 mostrar();
             });
     selectores_.emplace_back(selector, color);
