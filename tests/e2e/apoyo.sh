@@ -23,6 +23,9 @@ calma=0.15 # seconds of rest after each thing that the hand has done
 
 mal() {
     printf 'MAL: %s\n' "$*" >&2
+    if [[ -n $procesoPrograma ]] && ! corre; then
+        wait "$procesoPrograma" || printf 'el programa ha terminado con %s\n' "$?" >&2
+    fi
     if [[ -n ${CAPTURAS:-} && -n $procesoPantalla ]]; then
         mkdir -p "$CAPTURAS"
         timeout "$espera" import -silent -window root "$CAPTURAS/mal.png" || true
