@@ -81,6 +81,8 @@ void AbrirDibujo(Sesion& sesion) {
     if (!ruta) return;
     EliminarTodos(sesion);
     ResetearDibujo(sesion);
+    // What was current in the old drawing is nothing in this one.
+    sesion.dibujo.ElementoActual.reset();
     const ArchivoPerfil archivo(*ruta);
     leerCabecera(archivo, sesion.dibujo);
     ActualizarBarras(sesion);
@@ -89,8 +91,6 @@ void AbrirDibujo(Sesion& sesion) {
     leerElementos(archivo, sesion.dibujo);
     auto& textos = sesion.dibujo.TextoLibre;
     textos.recorrer(0, textos.contador - 1, [&](int, TextoLibre& texto) { ajustarATexto(sesion, texto); });
-    // What was current in the old drawing is nothing in this one.
-    sesion.dibujo.ElementoActual.reset();
     anunciarTodo(sesion.dibujo);
     sesion.plataforma.ponerTitulo(titulo(*ruta));
 }

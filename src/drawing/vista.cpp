@@ -61,8 +61,9 @@ void MedirHoja(Sesion& sesion) {
 Esquina esquinaALaVista(const Sesion& sesion) {
     const HojaDibujo& hoja = sesion.dibujo.Hoja;
     Esquina esquina;
-    asignar(esquina.Left, (hoja.Width - sesion.visorAncho) * sesion.HScroll1.valor / 100);
-    asignar(esquina.Top, (hoja.Height - sesion.visorAlto) * sesion.VScroll1.valor / 100);
+    const auto recorrido = [](const Barra& barra) { return barra.activa ? barra.valor : 0; };
+    asignar(esquina.Left, (hoja.Width - sesion.visorAncho) * recorrido(sesion.HScroll1) / 100);
+    asignar(esquina.Top, (hoja.Height - sesion.visorAlto) * recorrido(sesion.VScroll1) / 100);
     return esquina;
 }
 

@@ -6,6 +6,7 @@
 #include "ui/croquis_abertura.h"
 #include "ui/rotulos.h"
 
+#include <QButtonGroup>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -60,6 +61,10 @@ QLayout* AberturaPropForma::alineacion(const QString& enElMedio) {
     };
     auto* medio = radio("optAlineacion_0", enElMedio, logica_.alineacion() == 0, elegir(0));
     auto* situada = radio("optAlineacion_1", "&Situada a ", logica_.alineacion() == 1, elegir(1));
+    // The radios of the frames within the dialog are no part of this choice.
+    auto* grupo = new QButtonGroup(this);
+    grupo->addButton(medio);
+    grupo->addButton(situada);
     txtDistancia_ = campo("TxtDistancia", &AberturaProp::TxtDistancia);
     txtDistancia_->setAccessibleName("Distancia");
     txtDistancia_->setAccessibleDescription("metros del extremo");
@@ -79,6 +84,11 @@ QCheckBox* AberturaPropForma::casilla() {
     casilla->setChecked(logica_.Check1);
     connect(casilla, &QCheckBox::toggled, this, [this](bool puesta) { logica_.Check1 = puesta; });
     return casilla;
+}
+
+void AberturaPropForma::empezarPorLaLongitud() {
+    ordenar({"Check1", "Command1", "Command2"});
+    findChild<CampoNumero*>("txtLongitud")->setFocus();
 }
 
 void AberturaPropForma::mostrarAlineacion() {

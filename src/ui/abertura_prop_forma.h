@@ -30,6 +30,8 @@ class AberturaPropForma : public Dialogo {
     QLayout* alineacion(const QString& enElMedio);
     CroquisAbertura* croquis(const std::array<const char*, 4>& rotulos);
     QCheckBox* casilla();
+    /// Once all controls are there: the focus starts at the length, and the buttons come last.
+    void empezarPorLaLongitud();
     /// A radio of an index group, set as `elegido` says; `alElegir` is told when the user sets it.
     QRadioButton* radio(const QString& nombre, const QString& rotulo, bool elegido,
                         const std::function<void()>& alElegir);

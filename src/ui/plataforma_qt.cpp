@@ -72,6 +72,12 @@ void activarReloj(QTimer& reloj, bool activo) {
     if (!activo) reloj.stop();
 }
 
+/// A folder that is missing would be taken for the name of a file.
+std::filesystem::path carpetaInicial(const std::filesystem::path& carpeta) {
+    std::error_code error;
+    return std::filesystem::is_directory(carpeta, error) ? carpeta : carpeta.parent_path();
+}
+
 }  // namespace
 
 PlataformaQt::PlataformaQt() = default;
@@ -140,7 +146,8 @@ std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionA
     const QString titulo = !peticion.titulo.empty() ? aQString(peticion.titulo)
                            : guardar                ? "Guardar dibujo"
                                                     : "Abrir dibujo";
-    QFileDialog dialogo(duenoDe(ventana_), titulo, QString::fromStdString(peticion.carpeta.string()),
+    QFileDialog dialogo(duenoDe(ventana_), titulo,
+                        QString::fromStdString(carpetaInicial(peticion.carpeta).string()),
                         aQString(peticion.filtro));
     dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialogo.setAcceptMode(guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -28,6 +28,7 @@ PuertaPropForma::PuertaPropForma(PuertaProp& logica, QWidget* padre)
     cuerpo()->addWidget(fmeLado_);
     cuerpo()->addWidget(casilla());
     PuertaPropForma::mostrarAlineacion();
+    empezarPorLaLongitud();
 }
 
 QGroupBox* PuertaPropForma::hojas() {

@@ -25,6 +25,7 @@ VentanaPropForma::VentanaPropForma(VentanaProp& logica, QWidget* padre)
     cuerpo()->addWidget(marco);
     cuerpo()->addWidget(casilla());
     mostrarAlineacion();
+    empezarPorLaLongitud();
 }
 
 }  // namespace bosquel
