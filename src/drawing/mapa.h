@@ -3,6 +3,7 @@
 #include "model/dibujo.h"
 
 #include <cstdint>
+#include <tuple>
 #include <unordered_map>
 #include <vector>
 
@@ -15,7 +16,10 @@ struct Altura {
     Clase clase = Clase::MblMesa;
     int indice = 0;
 
-    auto operator<=>(const Altura&) const = default;
+    bool operator<(const Altura& otra) const {
+        return std::tie(orden, esPinza, clase, indice) <
+               std::tie(otra.orden, otra.esPinza, otra.clase, otra.indice);
+    }
 };
 
 /// Where everything with a place of its own stands, by squares of the sheet, so that what lies under the
