@@ -89,12 +89,22 @@ TEST(Creacion, LosMueblesYSimbolosSoloNacenSinHerramientaEnLaMano) {
 
 TEST(Creacion, AparecenEnLaEsquinaDeLaParteALaVista) {
     Banco banco;
+    banco.boton("Zoom");
     banco.bosquel.cambiarHScroll1(50);
     banco.bosquel.cambiarVScroll1(100);
     banco.crea(Clase::MblMesa);
     const MblMesa* mesa = banco.dibujo().MblMesa.en(1);
-    EXPECT_FLOAT_EQ(mesa->Left, static_cast<float>((10000 - Banco::visorAncho) * 50 / 100));
-    EXPECT_FLOAT_EQ(mesa->Top, static_cast<float>(10000 - Banco::visorAlto));
+    EXPECT_FLOAT_EQ(mesa->Left, static_cast<float>((20000 - Banco::visorAncho) * 50 / 100));
+    EXPECT_FLOAT_EQ(mesa->Top, static_cast<float>(20000 - Banco::visorAlto));
+}
+
+TEST(Creacion, EnUnaHojaMenorQueElVisorAparecenEnSuEsquina) {
+    Banco banco;
+    banco.sesion().HScroll1 = {.activa = false, .valor = 50};
+    banco.sesion().VScroll1 = {.activa = false, .valor = 100};
+    banco.crea(Clase::MblMesa);
+    EXPECT_EQ(banco.dibujo().MblMesa.en(1)->Left, 0);
+    EXPECT_EQ(banco.dibujo().MblMesa.en(1)->Top, 0);
 }
 
 TEST(Creacion, SonCopiasDelModelo) {
