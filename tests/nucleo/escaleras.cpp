@@ -159,8 +159,8 @@ TEST(CrearEscalera, ApareceEnLaEsquinaDeLoQueSeVe) {
     Escena escena;
     escena.banco.dibujo().Hoja.Width = 40000;
     escena.banco.dibujo().Hoja.Height = 30000;
-    escena.banco.sesion().HScroll1.valor = 50;
-    escena.banco.sesion().VScroll1.valor = 10;
+    escena.banco.sesion().HScroll1 = {.activa = true, .valor = 50};
+    escena.banco.sesion().VScroll1 = {.activa = true, .valor = 10};
     escena.banco.boton("Escalera");
     const Escalera* nueva = escena.banco.dibujo().Escalera.en(2);
     ASSERT_TRUE(nueva);
