@@ -23,6 +23,7 @@ paquetesPruebas=(
     clang
     clang-format
     clang-tidy
+    libclang-rt-dev # the sanitizers
     procps
     xvfb
     xdotool

@@ -41,10 +41,13 @@ void DialogoMueble::escribirColores() const {
 
 void DialogoMueble::guardarComoModelo() const {
     conElemento([]<class T>(const T& elemento, T& modelo) {
-        const Elemento suyo = modelo;
-        modelo = elemento;
-        static_cast<Elemento&>(modelo) = suyo;
-        modelo.LineColor = elemento.LineColor;
+        // The place stays the model's own.
+        T nuevo = elemento;
+        Elemento& comun = nuevo;
+        const Elemento& suyo = modelo;
+        comun = suyo;
+        nuevo.LineColor = elemento.LineColor;
+        modelo = nuevo;
     });
 }
 

@@ -47,7 +47,7 @@ void MuebleProp::elegirOpcion(int cual) {
 
 bool MuebleProp::escurridor() const {
     const int* valor = sitio(ficha_.ChkEscurridor);
-    return valor && *valor == 1;
+    return valor != nullptr && *valor == 1;
 }
 
 void MuebleProp::ponerEscurridor(bool puesto) {

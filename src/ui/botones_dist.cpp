@@ -53,8 +53,8 @@ void BotonesDist::marcar(int cual) {
 }
 
 void BotonesDist::mostrar(const std::vector<Calco>& calcos, const QSizeF& marco) {
-    for (std::size_t i = 0; i < botones_.size(); ++i)
-        botones_[i]->ponerImagen([calco = calcos.at(i), marco](const QPalette& paleta) {
+    for (std::size_t i = 0; Boton * boton : botones_)
+        boton->ponerImagen([calco = calcos.at(i++), marco](const QPalette& paleta) {
             return imagenElemento(calco, paleta, marco);
         });
 }

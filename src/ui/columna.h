@@ -32,7 +32,7 @@ class Columna final : public QWidget {
     QLabel* letrero_ = nullptr;
     /// A button of a palette and the element that it shows, if it shows one.
     struct Puesto {
-        Boton* boton;
+        Boton* boton = nullptr;
         Calco muestra;
     };
 

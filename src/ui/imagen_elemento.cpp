@@ -39,8 +39,8 @@ struct Encaje {
 
 class MotorElemento final : public QIconEngine {
   public:
-    MotorElemento(const Calco& calco, const Recuadro& extension, QPalette paleta, const QSizeF& marco)
-        : calco_(calco), extension_(extension), paleta_(std::move(paleta)), marco_(marco) {}
+    MotorElemento(Calco calco, const Recuadro& extension, QPalette paleta, const QSizeF& marco)
+        : calco_(std::move(calco)), extension_(extension), paleta_(std::move(paleta)), marco_(marco) {}
 
     void paint(QPainter* pintor, const QRect& rect, QIcon::Mode modo, QIcon::State) override {
         const double densidad = pintor->device()->devicePixelRatioF();

@@ -44,7 +44,12 @@ QByteArray codificar(const QImage& imagen, const char* formato) {
 
 /// A bitmap file as it would be without its pixels: the toolkit writes none for an empty picture.
 QByteArray sinPixeles(QByteArray fichero) {
-    constexpr qsizetype tamanoFichero = 2, inicioPixeles = 10, ancho = 18, alto = 22, tamanoPixeles = 34;
+    // Where the fields of its heads lie.
+    constexpr qsizetype tamanoFichero = 2;
+    constexpr qsizetype inicioPixeles = 10;
+    constexpr qsizetype ancho = 18;
+    constexpr qsizetype alto = 22;
+    constexpr qsizetype tamanoPixeles = 34;
     const auto cabecera = qFromLittleEndian<quint32>(fichero.constData() + inicioPixeles);
     fichero.truncate(static_cast<qsizetype>(cabecera));
     qToLittleEndian(cabecera, fichero.data() + tamanoFichero);

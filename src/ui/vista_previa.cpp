@@ -34,6 +34,7 @@ VistaPrevia::VistaPrevia(QImage imagen, const Papel& papel, QWidget* padre)
       imagen_(std::move(imagen)),
       papel_(papel),
       impresora_(QPrinter::HighResolution),
+      vista_(new QPrintPreviewWidget(&impresora_, this)),
       zoom_(nombrar(new QLabel(this), "lblZoom")) {
     setObjectName(aQString(papel.nombre));
     setWindowTitle(aQString(papel.titulo));
@@ -44,7 +45,6 @@ VistaPrevia::VistaPrevia(QImage imagen, const Papel& papel, QWidget* padre)
 
     impresora_.setDocName("Bosquel Rapiz");
     prepararPagina(impresora_, papel_);
-    vista_ = new QPrintPreviewWidget(&impresora_, this);
     vista_->setObjectName("Image1");
     auto* pagina = vista_->findChild<QGraphicsView*>();
     for (QWidget* parte : {static_cast<QWidget*>(pagina), pagina->viewport()})

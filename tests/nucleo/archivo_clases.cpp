@@ -132,8 +132,6 @@ const std::vector<ClaseGuardada> clases{
 };
 // clang-format on
 
-constexpr std::string_view cabezaDeDibujo = "[Cabecera]\r\nFactorZoomActual=1.25\r\n";
-
 /// A value as the locale has it.
 std::string segunIdioma(std::string texto) {
     const bool espanol = idiomaEspanol();

@@ -85,8 +85,8 @@ TEST(Opciones, LosMinutosVaciosOACeroSonCinco) {
     for (const auto& [texto, minutos] : {std::pair{"", 5}, {"0", 5}, {"7", 7}, {"00", 0}, {"99999", 9}}) {
         Banco banco;
         banco.dibujo().AutoSave = 9;
-        abrirOpciones(banco, [&](Opciones& dialogo) {
-            dialogo.txtSalvarCadaXmin = texto;
+        abrirOpciones(banco, [&, tecleado = texto](Opciones& dialogo) {
+            dialogo.txtSalvarCadaXmin = tecleado;
             dialogo.AplicarValores();
         });
         EXPECT_EQ(banco.dibujo().AutoSave, minutos) << texto;
