@@ -27,8 +27,9 @@ paquetesPruebas=(
     xvfb
     xdotool
     x11-utils     # xwininfo, xprop
+    xclip
     imagemagick   # import, compare
-    poppler-utils # pdftoppm
+    poppler-utils # pdfinfo, pdftoppm
 )
 
 # shellcheck disable=SC2034
