@@ -84,6 +84,12 @@ sitioDelMuro() {
     convert "$taller/visor.png" -colorspace gray -threshold 35% -trim -format '%X' info: | tr -d +
 }
 
+# alturaDelMuro: its upper edge there.
+alturaDelMuro() {
+    recorte "$taller/visor.png" 230 100 100 200
+    convert "$taller/visor.png" -colorspace gray -threshold 35% -trim -format '%Y' info: | tr -d +
+}
+
 # imprimirEn PAPEL TITULO TECLA_TAMANO TECLA_SENTIDO PUNTOS: prints to a file, whose paper is so many points large
 # and whose wall is measured. At 384 dots to the inch a pixel of the picture has 4 of them.
 imprimirEn() {
@@ -153,6 +159,16 @@ xdotool mouseup 1
 mapaDeBits lejos
 comprobarMargen 'ancho de lo trazado con la hoja en marcha' $((340 + desplazado)) 1 "$(campo "$carpeta/lejos.bmp" 18)"
 esperarTinta "$carpeta/lejos.bmp" "$anchoMuro+$((esquinaMuro - 100))+$((esquinaMuro - 100))"
+responder "$salida" alt+s
+
+# --- The wheel takes it up and down: three lines a notch, of a twentieth of what the sheet has to spare.
+abrirSalida
+redimensionar "$ventana" 560 460
+enSalida
+clic 300 200 5
+comprobarMargen 'el muro, con la rueda' $((esquinaMuro - 100 - 54)) 2 "$(alturaDelMuro)"
+clic 300 200 4
+comprobar 'el muro, con la rueda hacia atrás' $((esquinaMuro - 100)) "$(alturaDelMuro)"
 responder "$salida" alt+s
 
 # --- A frame moved off the sheet is taken from its edge, with its size; a click leaves an empty one, and no question.

@@ -74,12 +74,13 @@ struct PruebaImageCrop : VentanaDePrueba {
         llevarA(fuera);
         EXPECT_TRUE(QTest::qWaitFor([&] { return suelto && !reloj().isActive(); }));
     }
-    /// Over the middle of the viewport; eighths of a degree, away from the hand.
+    /// Over the viewport; eighths of a degree, away from the hand.
     void girarRueda(int giro, Qt::KeyboardModifiers teclas = {}) {
-        const QPointF punto = de("ContImagen").rect().center() - hoja().pos();
-        QWheelEvent suceso(punto, hoja().mapToGlobal(punto), {}, {0, giro}, Qt::NoButton, teclas,
+        QWidget& visor = de("ContImagen");
+        const QPointF punto = visor.rect().center();
+        QWheelEvent suceso(punto, visor.mapToGlobal(punto), {}, {0, giro}, Qt::NoButton, teclas,
                            Qt::NoScrollPhase, false);
-        QApplication::sendEvent(&hoja(), &suceso);
+        QApplication::sendEvent(&visor, &suceso);
     }
     QTimer& reloj() { return *forma->findChild<QTimer*>("Timer1"); }
 

@@ -125,7 +125,7 @@ void Trazador::rellenarElipse(const Curva& curva) {
 
 void Trazador::Print(std::string_view texto) {
     ++trazo_;
-    const QFontMetricsF letra(fuenteTexto(puntos_, 1 / twipsPorPixel));
+    const QFontMetricsF letra(sinSuavizar(fuenteTexto(puntos_, 1 / twipsPorPixel)));
     const QString linea = QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
     const QRectF caja(QPointF(redondeado(texto_.x()), redondeado(texto_.y())),
                       QSizeF(letra.horizontalAdvance(linea), letra.height()));
@@ -145,15 +145,18 @@ bool Trazador::seVe(const Paso& paso, const QImage& imagen) const {
 }
 
 std::string Trazador::falta(const QImage& imagen) const {
-    static const Celda blanca;
-    for (int y = 0; y < imagen.height(); ++y)
-        for (int x = 0; x < imagen.width(); ++x) {
-            const auto hallada = celdas_.find({x, y});
-            const auto& posibles = hallada == celdas_.end() ? blanca.posibles : hallada->second.posibles;
-            const QRgb color = imagen.pixel(x, y);
-            if (std::find(posibles.begin(), posibles.end(), color) == posibles.end())
-                return "sobra " + descrito({x, y}, color);
-        }
+    for (int y = 0; y < imagen.height(); ++y) {
+        const auto* fila = reinterpret_cast<const QRgb*>(imagen.constScanLine(y));
+        for (int x = 0; x < imagen.width(); ++x)
+            if (fila[x] != blancoOpaco && !celdas_.contains({x, y}))
+                return "sobra " + descrito({x, y}, fila[x]);
+    }
+    for (const auto& [pixel, celda] : celdas_) {
+        if (!imagen.valid(pixel.first, pixel.second)) continue;
+        const QRgb color = imagen.pixel(pixel.first, pixel.second);
+        if (std::find(celda.posibles.begin(), celda.posibles.end(), color) == celda.posibles.end())
+            return "no puede ser " + descrito(pixel, color);
+    }
     for (const Paso& paso : pasos_)
         if (!seVe(paso, imagen)) return "falta " + descrito(paso.pixeles.front(), paso.color);
     return {};

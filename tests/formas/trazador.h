@@ -36,7 +36,8 @@ class Trazador : public SuperficieSalida {
     void FontSize(float puntos) override { puntos_ = puntos; }
     void Print(std::string_view texto) override;
 
-    /// The first thing that is wrong with the picture, in words; nothing if it is as it has to be.
+    /// The first thing that is wrong with the picture, which has 32 bits to a pixel, in words; nothing if it
+    /// is as it has to be.
     std::string falta(const QImage& imagen) const;
 
     /// How many steps have been told so far: points at which something must be seen.
@@ -48,8 +49,10 @@ class Trazador : public SuperficieSalida {
     void trazarCurva(const Curva& curva, Color color) override;
 
   private:
+    static constexpr QRgb blancoOpaco = 0xFFFFFFFFU;
+
     struct Celda {
-        std::vector<QRgb> posibles{0xFFFFFFFFU};
+        std::vector<QRgb> posibles{blancoOpaco};
         std::size_t ultimo = 0;  ///< the stroke that came last here, counted from 1
     };
     /// One of these pixels is of this colour, unless one of them has been drawn over.
