@@ -12,7 +12,6 @@
 #include <QPainter>
 #include <QtEndian>
 #include <cmath>
-#include <memory>
 #include <new>
 
 namespace bosquel {
@@ -58,7 +57,11 @@ QByteArray codificar(const QImage& imagen, const char* formato) {
 
 /// A bitmap file as it would be without its pixels: the toolkit writes none for an empty picture.
 QByteArray sinPixeles(QByteArray fichero) {
-    constexpr qsizetype tamanoFichero = 2, inicioPixeles = 10, ancho = 18, alto = 22, tamanoPixeles = 34;
+    constexpr qsizetype tamanoFichero = 2;
+    constexpr qsizetype inicioPixeles = 10;
+    constexpr qsizetype ancho = 18;
+    constexpr qsizetype alto = 22;
+    constexpr qsizetype tamanoPixeles = 34;
     const auto cabecera = qFromLittleEndian<quint32>(fichero.constData() + inicioPixeles);
     fichero.truncate(static_cast<qsizetype>(cabecera));
     qToLittleEndian(cabecera, fichero.data() + tamanoFichero);
@@ -70,11 +73,9 @@ QByteArray sinPixeles(QByteArray fichero) {
 }  // namespace
 
 bool LienzoQt::sePuedenTomar(std::size_t bytes) {
-    const std::unique_ptr<char[]> prueba(new (std::nothrow) char[bytes]);
-    if (!prueba) return false;
-    // Touched, so that no compiler does without it.
-    static_cast<volatile char&>(prueba[0]) = 0;
-    return true;
+    void* const prueba = ::operator new(bytes, std::nothrow);
+    ::operator delete(prueba);
+    return prueba != nullptr;
 }
 
 /// Blank paper of this size, or a part of it: its longer side is halved until there is room for so many.
