@@ -9,8 +9,8 @@
 namespace bosquel {
 
 /// The pixels of a curve that is one pixel wide, to be drawn without smoothing; its lengths are pixels, and a
-/// pixel stands for the whole numbers of its middle. Each is the one in whose square the curve passes, and no
-/// point of the curve is further than that from one of them.
+/// pixel stands for the whole numbers of its middle. Each is one through whose square the curve passes, and
+/// where it passes through two that share a side, one of them may do for both.
 std::vector<QPoint> pixelesDe(const Curva& curva);
 
 /// The rows of pixels whose middles a whole circle or ellipse surrounds.

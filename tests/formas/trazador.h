@@ -24,8 +24,9 @@ class Trazador : public SuperficieSalida {
   public:
     using Pixel = std::pair<int, int>;
 
-    /// How far a pixel of a curve may lie from it: as far as the middle of a pixel may lie from a point that
-    /// falls into it, half a diagonal, and a tenth of a pixel for what the curve's own chords take off.
+    /// How far a pixel of a curve may lie from it, and the curve from the nearest of its pixels: as far as
+    /// the middle of a pixel may lie from a point that falls into it, half a diagonal, and a tenth of a pixel
+    /// for the corners that a line one pixel wide cuts.
     static constexpr double cerca = 0.81;
 
     void FillStyle(Relleno relleno) override { relleno_ = relleno; }
