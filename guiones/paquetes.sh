@@ -28,8 +28,9 @@ paquetesPruebas=(
     xvfb
     xdotool
     x11-utils     # xwininfo, xprop
+    xclip
     imagemagick   # import, compare
-    poppler-utils # pdftoppm
+    poppler-utils # pdfinfo, pdftoppm
 )
 
 # shellcheck disable=SC2034

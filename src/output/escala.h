@@ -11,7 +11,7 @@ inline constexpr double twipsPorPixel = 15;
 /// Twips of the output to a sheet unit: 500 sheet units, a metre at the first zoom factor, come out as 10 mm.
 inline constexpr double EscalaSalida = 10 / (500 * milimetrosPorPulgada / twipsPorPulgada);
 
-/// Pixels: no picture is wider or higher than this, so that two of them always fit into memory. What lies
+/// Pixels: no picture is wider or higher than this, so that a few of them fit into most machines. What lies
 /// further right or further down is cut off.
 inline constexpr int ladoMaximo = 8192;
 

@@ -39,10 +39,12 @@ ImageCrop::ImageCrop(Plataforma& plataforma, const Dibujo& dibujo, std::filesyst
 
 void ImageCrop::cargar(LienzoSalida& lienzo) {
     lienzo_ = &lienzo;
-    lienzo.pintarHoja(pixeles(HojaSalida_.Width), pixeles(HojaSalida_.Height),
-                      [this](SuperficieSalida& superficie) {
-                          DibujarTodo(salidaDe(dibujo_, superficie, EscalaSalida), dibujo_);
-                      });
+    const TamanoSalida pedido{pixeles(HojaSalida_.Width), pixeles(HojaSalida_.Height)};
+    const TamanoSalida pintado = lienzo.pintarHoja(pedido, [this](SuperficieSalida& superficie) {
+        DibujarTodo(salidaDe(dibujo_, superficie, EscalaSalida), dibujo_);
+    });
+    if (pintado.ancho < pedido.ancho) HojaSalida_.Width = pintado.ancho * twipsPorPixel;
+    if (pintado.alto < pedido.alto) HojaSalida_.Height = pintado.alto * twipsPorPixel;
 }
 
 void ImageCrop::redimensionar(double ancho, double alto) {

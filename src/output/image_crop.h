@@ -57,8 +57,8 @@ class ImageCrop {
     /// Called whenever what the window shows has changed, also in the midst of a long event.
     std::function<void()> alCambiar;
 
-    /// Load of the window, before anything else: paints the drawing on `HojaSalida`. The pictures have to
-    /// outlast this.
+    /// Load of the window, before anything else: paints the drawing on `HojaSalida`, which is cut to what the
+    /// pictures can hold. They have to outlast this.
     void cargar(LienzoSalida& lienzo);
 
     /// Its size, and its place in the viewport: 0 or less.

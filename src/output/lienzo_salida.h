@@ -16,6 +16,13 @@ struct AreaSalida {
     bool operator==(const AreaSalida&) const = default;
 };
 
+/// Whole pixels.
+struct TamanoSalida {
+    int ancho = 0, alto = 0;
+
+    bool operator==(const TamanoSalida&) const = default;
+};
+
 enum class Profundidad : std::uint8_t { color, dosTonos };
 
 /// The pictures of the output, whose pixels are the outside's, and the ends that they go to: `HojaSalida`, on
@@ -28,11 +35,13 @@ class LienzoSalida {
     LienzoSalida& operator=(const LienzoSalida&) = delete;
     virtual ~LienzoSalida() = default;
 
-    /// `HojaSalida` becomes a white picture of so many pixels, on which `dibujar` draws in twips.
-    virtual void pintarHoja(int ancho, int alto, const std::function<void(SuperficieSalida&)>& dibujar) = 0;
+    /// `HojaSalida` becomes a white picture of this size, on which `dibujar` draws in twips. Where memory is
+    /// short it is smaller; gives the size that it has.
+    virtual TamanoSalida pintarHoja(TamanoSalida tamano,
+                                    const std::function<void(SuperficieSalida&)>& dibujar) = 0;
 
-    /// `RecorteSalida` becomes the area of `HojaSalida`, white where that ends. An area of no width or no
-    /// height gives an empty picture.
+    /// `RecorteSalida` becomes the area of `HojaSalida`, white where that ends, and less of it where memory
+    /// is short. An area of no width or no height gives an empty picture.
     virtual void recortar(const AreaSalida& area) = 0;
 
     virtual void vaciarPortapapeles() = 0;

@@ -124,8 +124,9 @@ ImageCropForma::ImageCropForma(ImageCrop& logica, QWidget* padre)
     });
     logica_.alCambiar = [this] { mostrar(); };
 
+    // Rounded up: a sheet that has room needs no bar.
     const QSize entera = lienzo_.HojaSalida().size() +
-                         QSize(aPixeles(ImageCrop::margenAncho), aPixeles(ImageCrop::margenAlto));
+                         QSize(aPixeles(ImageCrop::margenAncho) + 1, aPixeles(ImageCrop::margenAlto) + 1);
     resize(entera.boundedTo(screen()->availableSize() * parteDeLaPantalla).expandedTo(minimumSize()));
 }
 

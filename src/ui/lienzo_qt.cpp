@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QtEndian>
 #include <cmath>
+#include <new>
 
 namespace bosquel {
 
@@ -19,8 +20,20 @@ namespace {
 
 constexpr double milimetrosPorMetro = 1000;
 
-QImage papelBlanco(int ancho, int alto) {
-    QImage papel(std::max(ancho, 0), std::max(alto, 0), QImage::Format_RGB32);
+/// What else an open window and its dialogs may want while a picture is there, bytes.
+constexpr std::size_t reservaPorImagen = std::size_t{16} << 20U;
+
+/// Room for so many of it is wanted to make a picture: an uncompressed form of it on the clipboard takes two
+/// more while it grows, and the sheet has an area of its own size beside it.
+constexpr std::size_t copiasDelRecorte = 3, copiasDeLaHoja = 4;
+
+std::size_t bytesDe(TamanoSalida tamano) {
+    return sizeof(QRgb) * static_cast<std::size_t>(tamano.ancho) * static_cast<std::size_t>(tamano.alto);
+}
+
+/// Without pixels if it has no width or no height.
+QImage papelBlanco(TamanoSalida tamano) {
+    QImage papel(tamano.ancho, tamano.alto, QImage::Format_RGB32);
     const int porMetro = static_cast<int>(
         std::lround(twipsPorPulgada / twipsPorPixel / milimetrosPorPulgada * milimetrosPorMetro));
     papel.setDotsPerMeterX(porMetro);
@@ -60,19 +73,36 @@ QByteArray sinPixeles(QByteArray fichero) {
 
 }  // namespace
 
-void LienzoQt::pintarHoja(int ancho, int alto, const std::function<void(SuperficieSalida&)>& dibujar) {
-    HojaSalida_ = papelBlanco(ancho, alto);
-    if (HojaSalida_.isNull()) return;
-    QPainter pintor(&HojaSalida_);
-    pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing, false);
-    SuperficieQt superficie(pintor, 1 / twipsPorPixel, {});
-    dibujar(superficie);
+bool LienzoQt::sePuedenTomar(std::size_t bytes) {
+    void* const prueba = ::operator new(bytes, std::nothrow);
+    ::operator delete(prueba);
+    return prueba != nullptr;
+}
+
+/// Blank paper of this size, or a part of it: its longer side is halved until there is room for so many.
+QImage LienzoQt::papelPara(TamanoSalida tamano, std::size_t copias) const {
+    if (tamano.ancho <= 0 || tamano.alto <= 0) return {};
+    while (bytesDe(tamano) > 0 && !hayMemoria_(copias * (bytesDe(tamano) + reservaPorImagen)))
+        (tamano.ancho > tamano.alto ? tamano.ancho : tamano.alto) /= 2;
+    return papelBlanco(tamano);
+}
+
+TamanoSalida LienzoQt::pintarHoja(TamanoSalida tamano,
+                                  const std::function<void(SuperficieSalida&)>& dibujar) {
+    HojaSalida_ = papelPara(tamano, copiasDeLaHoja);
+    if (!HojaSalida_.isNull()) {
+        QPainter pintor(&HojaSalida_);
+        pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing, false);
+        SuperficieQt superficie(pintor, 1 / twipsPorPixel, {});
+        dibujar(superficie);
+    }
+    return {HojaSalida_.width(), HojaSalida_.height()};
 }
 
 void LienzoQt::recortar(const AreaSalida& area) {
     // The old one goes first: each may be as large as the sheet.
     RecorteSalida_ = {};
-    RecorteSalida_ = papelBlanco(area.ancho, area.alto);
+    RecorteSalida_ = papelPara({area.ancho, area.alto}, copiasDelRecorte);
     if (!RecorteSalida_.isNull()) QPainter(&RecorteSalida_).drawImage(-area.left, -area.top, HojaSalida_);
 }
 
@@ -100,7 +130,7 @@ void LienzoQt::vistaPrevia(const Papel& papel) {
 
 void LienzoQt::guardar(const std::filesystem::path& ruta, Profundidad profundidad) {
     const bool vacio = RecorteSalida_.isNull();
-    const QImage color = vacio ? papelBlanco(1, 1) : RecorteSalida_;
+    const QImage color = vacio ? papelBlanco({1, 1}) : RecorteSalida_;
     const QImage imagen = profundidad == Profundidad::dosTonos ? enDosTonos(color) : color;
     QFile fichero(ruta);
     if (!fichero.open(QIODevice::WriteOnly)) return;

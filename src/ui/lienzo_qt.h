@@ -3,6 +3,8 @@
 #include "output/lienzo_salida.h"
 
 #include <QImage>
+#include <cstddef>
+#include <utility>
 
 namespace bosquel {
 
@@ -10,10 +12,16 @@ namespace bosquel {
 /// paper, strokes a pixel wide, nothing smoothed. They know how large they are meant to be on paper.
 class LienzoQt final : public LienzoSalida {
   public:
+    /// Whether so many bytes could be had now.
+    using HayMemoria = std::function<bool(std::size_t)>;
+
+    explicit LienzoQt(HayMemoria hayMemoria = sePuedenTomar) : hayMemoria_(std::move(hayMemoria)) {}
+
     const QImage& HojaSalida() const { return HojaSalida_; }
     const QImage& RecorteSalida() const { return RecorteSalida_; }
 
-    void pintarHoja(int ancho, int alto, const std::function<void(SuperficieSalida&)>& dibujar) override;
+    TamanoSalida pintarHoja(TamanoSalida tamano,
+                            const std::function<void(SuperficieSalida&)>& dibujar) override;
     void recortar(const AreaSalida& area) override;
     void vaciarPortapapeles() override;
     void ponerEnPortapapeles() override;
@@ -21,7 +29,12 @@ class LienzoQt final : public LienzoSalida {
     void vistaPrevia(const Papel& papel) override;
     void guardar(const std::filesystem::path& ruta, Profundidad profundidad) override;
 
+    static bool sePuedenTomar(std::size_t bytes);
+
   private:
+    QImage papelPara(TamanoSalida tamano, std::size_t copias) const;
+
+    HayMemoria hayMemoria_;
     QImage HojaSalida_, RecorteSalida_, Image1_;
 };
 

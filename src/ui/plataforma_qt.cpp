@@ -22,6 +22,7 @@
 #include "ui/ventana_prop_forma.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QFileDialog>
@@ -218,6 +219,9 @@ void PlataformaQt::repintar(const ZonaSucia& zona, const ZonaSucia& paso) {
 }
 
 void PlataformaQt::terminar() {
+    // What has been copied goes to the keeper of the desktop's clipboard, which the application sees to as it
+    // is taken down. Nobody comes back to it: those who wait in its loops end with the program.
+    if (QGuiApplication::clipboard()->ownsClipboard()) QCoreApplication::instance()->~QCoreApplication();
     // At once, whatever loops and dialogs are still open; nothing is saved on the way out.
     std::quick_exit(EXIT_SUCCESS);
 }

@@ -1,5 +1,7 @@
 #include "ui/superficie_qt.h"
 
+#include "ui/pixeles_curva.h"
+
 #include <QFontMetricsF>
 #include <QPainterPath>
 #include <QtMath>
@@ -27,6 +29,10 @@ bool acotar(double inicio, double paso, double& desde, double& hasta) {
 
 QPoint enteros(QPointF punto) {
     return {static_cast<int>(std::lround(punto.x())), static_cast<int>(std::lround(punto.y()))};
+}
+
+QPen lapiz(Color color) {
+    return {colorQt(color), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
 bool cerca(QPointF punto) {
@@ -59,6 +65,12 @@ QFont fuenteTexto(double puntos, double escala) {
     return letra;
 }
 
+QFont sinSuavizar(QFont letra) {
+    letra.setStyleStrategy(QFont::NoAntialias);
+    letra.setHintingPreference(QFont::PreferFullHinting);
+    return letra;
+}
+
 std::optional<QLine> recortar(QPointF desde, QPointF hasta) {
     if (cerca(desde) && cerca(hasta)) return QLine(enteros(desde), enteros(hasta));
     const QPointF paso = hasta - desde;
@@ -72,7 +84,7 @@ std::optional<QLine> recortar(QPointF desde, QPointF hasta) {
 }
 
 void SuperficieQt::ponerLapiz(Color color) {
-    pintor_.setPen(QPen(colorQt(tinta_.value_or(color)), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    pintor_.setPen(lapiz(tinta_.value_or(color)));
 }
 
 /// The painter's brush is the fill state, so that it is bare again when the fill state is.
@@ -106,6 +118,8 @@ void SuperficieQt::trazarCaja(double x1, double y1, double x2, double y2, Color 
     const QPoint esquina(std::min(una.x(), otra.x()), std::min(una.y(), otra.y()));
     const QPoint opuesta(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()));
     ponerLapiz(color);
+    // The toolkit leaves out a rectangle of nothing but its corner.
+    if (esquina == opuesta) return pintor_.drawPoint(esquina);
     pintor_.drawRect(QRect(esquina, QSize(opuesta.x() - esquina.x(), opuesta.y() - esquina.y())));
 }
 
@@ -113,7 +127,26 @@ void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
     const QPointF centro = enPixeles(curva.x, curva.y);
     const QPointF ejes(curva.ejeX() * escala_, curva.ejeY() * escala_);
     if (!cerca(centro) || !cerca(ejes)) return;
-    const QRectF marco(centro - ejes, centro + ejes);
+    if (pintor_.testRenderHint(QPainter::Antialiasing))
+        trazarCurvaSuave(curva, QRectF(centro - ejes, centro + ejes), color);
+    else
+        trazarCurvaEnPixeles({centro.x(), centro.y(), curva.radio * escala_, curva.arco, curva.aspecto},
+                             color);
+}
+
+/// The toolkit's own curves without smoothing stray by up to two pixels from where they should be.
+void SuperficieQt::trazarCurvaEnPixeles(const Curva& curva, Color color) {
+    if (!curva.arco && relleno_ == Relleno::solido) {
+        pintor_.setPen(lapiz(colorRelleno_));
+        const std::vector<QLine> filas = filasDe(curva);
+        pintor_.drawLines(filas.data(), static_cast<int>(filas.size()));
+    }
+    ponerLapiz(color);
+    const std::vector<QPoint> pixeles = pixelesDe(curva);
+    pintor_.drawPoints(pixeles.data(), static_cast<int>(pixeles.size()));
+}
+
+void SuperficieQt::trazarCurvaSuave(const Curva& curva, const QRectF& marco, Color color) {
     ponerLapiz(color);
     if (!curva.arco) {
         pintor_.drawEllipse(marco);
@@ -129,11 +162,7 @@ void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
 
 void SuperficieQt::Print(std::string_view texto) {
     QFont letra = fuenteTexto(puntos_, escala_);
-    // On a picture without smoothing, nothing of the letters is left to the settings of the screen.
-    if (!pintor_.testRenderHint(QPainter::TextAntialiasing)) {
-        letra.setStyleStrategy(QFont::NoAntialias);
-        letra.setHintingPreference(QFont::PreferFullHinting);
-    }
+    if (!pintor_.testRenderHint(QPainter::TextAntialiasing)) letra = sinSuavizar(letra);
     const QPointF esquina = enPixeles(texto_.x(), texto_.y());
     if (!cerca(esquina)) return;
     pintor_.setFont(letra);

@@ -9,8 +9,9 @@
 
 namespace bosquel {
 
-/// A surface on a painter whose units are device pixels: strokes are one of them wide, whatever the density,
-/// and none is smoothed. A curve too great or too far away for a painter is left out.
+/// A surface on a painter whose units are device pixels: strokes are one of them wide, whatever the density.
+/// Unless the painter smooths, a position is the pixel whose middle comes nearest, of curves as of lines. A
+/// curve too great or too far away for a painter is left out.
 class SuperficieQt final : public SuperficieSalida {
   public:
     /// `escala` device pixels to a surface unit; the surface's origin falls on `origen`.
@@ -39,6 +40,8 @@ class SuperficieQt final : public SuperficieSalida {
     QPointF enPixeles(double x, double y) const { return origen_ + QPointF(x, y) * escala_; }
     void ponerLapiz(Color color);
     void ponerBrocha();
+    void trazarCurvaEnPixeles(const Curva& curva, Color color);
+    void trazarCurvaSuave(const Curva& curva, const QRectF& marco, Color color);
 
     QPainter& pintor_;
     double escala_;
@@ -52,6 +55,10 @@ class SuperficieQt final : public SuperficieSalida {
 
 /// The type of free texts, `escala` pixels to a sheet unit.
 QFont fuenteTexto(double puntos, double escala);
+
+/// The same type on a picture that is not smoothed: nothing of its letters is left to the settings of the
+/// screen.
+QFont sinSuavizar(QFont letra);
 
 /// The colour as the toolkit has it, and back: a plain one.
 QColor colorQt(Color color);

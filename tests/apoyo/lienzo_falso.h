@@ -4,6 +4,8 @@
 #include "output/papel.h"
 #include "surface/grabadora.h"
 
+#include <algorithm>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -15,15 +17,18 @@ class LienzoFalso : public LienzoSalida {
     std::vector<std::string> hechos;  ///< "vaciar", "poner", "tomar", "guardar RUTA color", "ver A4"...
     std::vector<AreaSalida> areas;    ///< all that have been copied
     std::vector<std::string> trazos;
-    int ancho = -1, alto = -1, veces = 0;  ///< of the sheet's picture, and how often it was painted
+    int ancho = -1, alto = -1, veces = 0;        ///< of the sheet's picture, and how often it was painted
+    int cabe = std::numeric_limits<int>::max();  ///< the longest side that there is memory for
 
-    void pintarHoja(int ancho_, int alto_, const std::function<void(SuperficieSalida&)>& dibujar) override {
-        ancho = ancho_;
-        alto = alto_;
+    TamanoSalida pintarHoja(TamanoSalida tamano,
+                            const std::function<void(SuperficieSalida&)>& dibujar) override {
+        ancho = std::min(tamano.ancho, cabe);
+        alto = std::min(tamano.alto, cabe);
         ++veces;
         Grabadora hoja;
         dibujar(hoja);
         trazos = hoja.trazos();
+        return {ancho, alto};
     }
     void recortar(const AreaSalida& area) override { areas.push_back(area); }
     void vaciarPortapapeles() override { hechos.emplace_back("vaciar"); }

@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 using namespace bosquel;
 using namespace bosquel::apoyo;
@@ -73,6 +74,14 @@ struct PruebaImageCrop : VentanaDePrueba {
         llevarA(fuera);
         EXPECT_TRUE(QTest::qWaitFor([&] { return suelto && !reloj().isActive(); }));
     }
+    /// Over the viewport; eighths of a degree, away from the hand.
+    void girarRueda(int giro, Qt::KeyboardModifiers teclas = {}) {
+        QWidget& visor = de("ContImagen");
+        const QPointF punto = visor.rect().center();
+        QWheelEvent suceso(punto, visor.mapToGlobal(punto), {}, {0, giro}, Qt::NoButton, teclas,
+                           Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&visor, &suceso);
+    }
     QTimer& reloj() { return *forma->findChild<QTimer*>("Timer1"); }
 
     void arrastrar(QPoint desde, QPoint hasta) {
@@ -125,11 +134,15 @@ using ImageCropFormaAbrir = PruebaImageCrop;
 using ImageCropFormaPuntero = PruebaImageCrop;
 using ImageCropFormaSalida = PruebaImageCrop;
 
-bool hayNegro(const QImage& imagen) {
+bool hayColor(const QImage& imagen, const QColor& color) {
     for (int y = 0; y < imagen.height(); ++y)
         for (int x = 0; x < imagen.width(); ++x)
-            if (imagen.pixelColor(x, y) == QColor(Qt::black)) return true;
+            if (imagen.pixelColor(x, y) == color) return true;
     return false;
+}
+
+bool hayNegro(const QImage& imagen) {
+    return hayColor(imagen, Qt::black);
 }
 
 }  // namespace
@@ -207,12 +220,56 @@ TEST_F(ImageCropFormaAbrir, LaHojaQueCabeNoTieneBarras) {
     EXPECT_EQ(hoja().geometry(), QRect(0, 0, 756, 756));
 }
 
-TEST_F(ImageCropFormaAbrir, LasBarrasYLaRuedaMuevenLaHoja) {
+TEST_F(ImageCropFormaAbrir, SeAbreConSitioParaTodaLaHojaSiLaPantallaLoTiene) {
+    // On either side of the half: 453.54 pixels and 453.47.
+    for (const float medida : {6000.0F, 5999.0F}) {
+        dibujo().Hoja.Width = dibujo().Hoja.Height = medida;
+        abrir();
+        EXPECT_FALSE(de("HScroll1").isVisible()) << medida;
+        EXPECT_FALSE(de("VScroll1").isVisible()) << medida;
+    }
+}
+
+TEST_F(ImageCropFormaAbrir, LasBarrasMuevenLaHoja) {
     abrir(pequena);
     de<QScrollBar>("HScroll1").setValue(100);
     EXPECT_NEAR(hoja().geometry().right() + 1, de("ContImagen").width(), 1);
     de<QScrollBar>("VScroll1").setValue(50);
     EXPECT_NEAR(hoja().y(), (de("ContImagen").height() - 756) / 2, 1);
+}
+
+TEST_F(ImageCropFormaAbrir, LaRuedaMueveLaHojaYConMayusculasDeLado) {
+    abrir(pequena);
+    girarRueda(-120);
+    const int abajo = de<QScrollBar>("VScroll1").value();
+    EXPECT_GT(abajo, 0);
+    EXPECT_NEAR(hoja().y(), -(756 - de("ContImagen").height()) * abajo / 100.0, 1);
+    EXPECT_EQ(hoja().x(), 0);
+    girarRueda(-120, Qt::ShiftModifier);
+    EXPECT_GT(de<QScrollBar>("HScroll1").value(), 0);
+    EXPECT_LT(hoja().x(), 0);
+    EXPECT_EQ(de<QScrollBar>("VScroll1").value(), abajo);
+    girarRueda(1200);
+    EXPECT_EQ(hoja().y(), 0);
+}
+
+TEST_F(ImageCropFormaAbrir, LaRuedaNoMueveLaHojaQueCabe) {
+    abrir({900, 900});
+    girarRueda(-120);
+    girarRueda(-120, Qt::ShiftModifier);
+    EXPECT_EQ(hoja().pos(), QPoint(0, 0));
+}
+
+TEST_F(ImageCropFormaPuntero, LaRuedaLlevaLaHojaBajoElRecuadroQueSeTraza) {
+    abrir(pequena);
+    pulsarEn({100, 100});
+    llevarA({200, 150});
+    girarRueda(-120);
+    QApplication::processEvents();
+    EXPECT_LT(hoja().y(), 0);
+    // The pointer has stayed where it was, over another place of the sheet.
+    EXPECT_EQ(marco(), QRect(QPoint(100, 100), QPoint(200, 150 - hoja().y())));
+    soltarEn({200, 150 - hoja().y()});
 }
 
 TEST_F(ImageCropFormaAbrir, ElTabuladorRecorreLasOpcionesYLosBotones) {
@@ -373,6 +430,17 @@ TEST_F(ImageCropFormaSalida, EnBlancoYNegroElFicheroTieneUnBitPorPixel) {
     EXPECT_EQ(QImage(ruta).size(), QSize(220, 60));
     EXPECT_EQ(QImage(ruta).dotsPerMeterY(), 3780);
     EXPECT_TRUE(hayNegro(leer(ruta)));
+}
+
+TEST_F(ImageCropFormaSalida, ConUnPerfilElFicheroEsDeColor) {
+    dibujo().Esquema = "Perfil Predefinido";
+    dibujo().Pared.modelo().LineColor = rojo;
+    abrir();
+    arrastrar({200, 200}, {420, 260});
+    const QImage fichero = leer(guardar("perfil.bmp"));
+    EXPECT_EQ(fichero.size(), QSize(220, 60));
+    EXPECT_FALSE(hayColor(fichero, Qt::black));
+    EXPECT_TRUE(hayColor(fichero, Qt::red));
 }
 
 TEST_F(ImageCropFormaSalida, ElDialogoDeFicherosEsElSuyoYNoPreguntaAlSobrescribir) {

@@ -1,190 +1,38 @@
 #include "ui/lienzo_qt.h"
 
-#include "apoyo/carpeta_temporal.h"
-#include "apoyo/muestrario.h"
-#include "formas/apoyo_formas.h"
-#include "furnishing/dibujar_elemento.h"
+#include "formas/prueba_lienzo.h"
 #include "output/escala.h"
-#include "output/image_crop.h"
 #include "surface/superficie_salida.h"
-#include "walls/pared.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QMimeData>
-#include <array>
-#include <cmath>
-#include <set>
-#include <vector>
 
 using namespace bosquel;
 using namespace bosquel::apoyo;
 
 namespace {
 
-using Pixel = std::pair<int, int>;
-
-/// The pixels of the straight strokes that it is given. Between two pixels a stroke takes either.
-class Trazador : public SuperficieSalida {
-  public:
-    void FillStyle(Relleno) override {}
-    void FillColor(Color) override {}
-    void CurrentX(double) override {}
-    void CurrentY(double) override {}
-    void ForeColor(Color) override {}
-    void FontSize(float) override {}
-    void Print(std::string_view) override {}
-
-    std::vector<std::array<Pixel, 2>> pasos;  ///< each wants one of its two, which may be the same
-
-  protected:
-    void trazarLinea(double x1, double y1, double x2, double y2, Color) override {
-        const auto pixel = [](double twips) { return std::round(twips / twipsPorPixel); };
-        const double dx = pixel(x2) - pixel(x1);
-        const double dy = pixel(y2) - pixel(y1);
-        const double largo = std::max({std::abs(dx), std::abs(dy), 1.0});
-        for (double i = 0; i <= largo; ++i) {
-            const double x = pixel(x1) + dx * i / largo;
-            const double y = pixel(y1) + dy * i / largo;
-            pasos.push_back({Pixel(std::floor(x), std::floor(y)), Pixel(std::ceil(x), std::ceil(y))});
-        }
-    }
-    void trazarCaja(double, double, double, double, Color) override { FAIL(); }
-    void trazarCurva(const Curva&, Color) override { FAIL(); }
-};
-
-/// Says yes to everything, and names a file.
-struct PlataformaDeSi : PlataformaMuda {
-    CarpetaTemporal carpeta;
-    std::filesystem::path ruta = carpeta / "plano.bmp";
-
-    Respuesta mensaje(const Mensaje&) override { return Respuesta::si; }
-    std::optional<std::filesystem::path> elegirArchivo(const PeticionArchivo&) override { return ruta; }
-};
-
-/// The output of a drawing of one's own, without its window.
-struct PruebaLienzo : testing::Test {
-    PlataformaDeSi plataforma;
-    Dibujo dibujo;
-    LienzoQt lienzo;
-
-    PruebaLienzo() { dibujo.Esquema = "Colores Personalizados"; }
-
-    void pintar() { ImageCrop(plataforma, dibujo, {}).cargar(lienzo); }
-
-    /// The bitmap file of the whole drawing.
-    QImage exportado() {
-        ImageCrop logica(plataforma, dibujo, {});
-        logica.cargar(lienzo);
-        logica.pulsarEdicion(ImageCrop::Edicion::Bitmap);
-        return QImage(QString::fromStdString(plataforma.ruta.string()));
-    }
-
-    void ponMuro(double x, double y, int angulo, double longitud, const char* tipo = "Muro") {
-        const int indice = dibujo.Pared.contador;
-        Pared& pared = dibujo.Pared.crear(indice);
-        avanzar(dibujo.Pared.contador);
-        asignar(pared.InicialX, x);
-        asignar(pared.InicialY, y);
-        asignar(pared.Angulo, angulo);
-        pared.Longitud = longitud;
-        pared.Tipo = tipo;
-        DibujaPared(dibujo, indice, false);
-    }
-
-    void ponTexto(const char* escrito) {
-        TextoLibre& texto = dibujo.TextoLibre.crear(1);
-        dibujo.TextoLibre.contador = 2;
-        texto.Left = texto.Top = 3000;
-        texto.FontSize = 20;
-        texto.Text = escrito;
-        texto.Visible = true;
-    }
-};
-
-using LienzoQtPintar = PruebaLienzo;
 using LienzoQtRecortar = PruebaLienzo;
 using LienzoQtGuardar = PruebaLienzo;
 using LienzoQtPortapapeles = PruebaLienzo;
+using LienzoQtMemoria = PruebaLienzo;
 
-bool esTinta(const QImage& imagen, int x, int y) {
-    return (imagen.pixel(x, y) & 0xFFFFFFU) == 0;
+constexpr std::size_t mega = 1 << 20;
+
+/// A canvas for which there are so many bytes at most.
+std::unique_ptr<LienzoQt> lienzoCon(std::size_t memoria) {
+    return std::make_unique<LienzoQt>([memoria](std::size_t bytes) { return bytes <= memoria; });
 }
 
-bool enBlanco(const QImage& imagen) {
-    QImage papel(imagen.size(), QImage::Format_RGB32);
-    papel.fill(Qt::white);
-    return imagen == papel;
-}
-
-/// Every stroke has its pixels, one at each step, and nothing else has any.
-void esperarTrazos(const QImage& imagen, const Trazador& trazos) {
-    const auto esNegro = [&](const Pixel& p) {
-        return imagen.valid(p.first, p.second) && esTinta(imagen, p.first, p.second);
-    };
-    std::set<Pixel> posibles;
-    for (const auto& paso : trazos.pasos) {
-        posibles.insert(paso.begin(), paso.end());
-        ASSERT_TRUE(esNegro(paso[0]) || esNegro(paso[1])) << paso[0].first << " " << paso[0].second;
-    }
-    std::size_t tinta = 0;
-    for (int y = 0; y < imagen.height(); ++y)
-        for (int x = 0; x < imagen.width(); ++x) {
-            ASSERT_TRUE(esTinta(imagen, x, y) || imagen.pixel(x, y) == 0xFFFFFFFFU) << x << " " << y;
-            if (!esTinta(imagen, x, y)) continue;
-            ++tinta;
-            ASSERT_TRUE(posibles.contains({x, y})) << x << " " << y;
-        }
-    EXPECT_LE(tinta, trazos.pasos.size());
-    EXPECT_GT(tinta, 4000U);
+void pintarNegro(SuperficieSalida& hoja) {
+    hoja.FillStyle(Relleno::solido);
+    hoja.FillColor(negro);
+    hoja.Caja(-15, -15, 1e6, 1e6, negro);
 }
 
 }  // namespace
-
-TEST_F(LienzoQtPintar, ElPapelEsBlancoDeUnPixelPorPixel) {
-    pintar();
-    EXPECT_EQ(lienzo.HojaSalida().size(), QSize(756, 756));
-    EXPECT_EQ(lienzo.HojaSalida().devicePixelRatio(), 1);
-    EXPECT_EQ(lienzo.HojaSalida().dotsPerMeterX(), 3780);
-    EXPECT_EQ(lienzo.HojaSalida().dotsPerMeterY(), 3780);
-    EXPECT_TRUE(enBlanco(lienzo.HojaSalida()));
-}
-
-TEST_F(LienzoQtPintar, LosPixelesDelFicheroSonLosDeLosTrazos) {
-    for (int angulo = -90, i = 0; angulo <= 90; angulo += 13, ++i)
-        ponMuro(1500 + 400.3 * i, 5200 + 77.7 * i, angulo, 2345 + 111 * i, i % 2 == 0 ? "Muro" : "Tabique");
-    std::size_t n = 0;
-    for (Segmento& linea : dibujo.Ventana.crear(1).lineas)
-        linea = {600, 500 + 91.3F * static_cast<float>(++n), 1900, 300, true};
-    for (Segmento& linea : dibujo.Puerta.crear(1).lineas)
-        linea = {8200, 600, 8000 + 123.7F * static_cast<float>(++n), 2900, true};
-    dibujo.Ventana.contador = dibujo.Puerta.contador = 2;
-    Trazador trazos;
-    DibujarTodo(salidaDe(dibujo, trazos, EscalaSalida), dibujo);
-    esperarTrazos(exportado(), trazos);
-}
-
-TEST_F(LienzoQtPintar, NadaSeSuaviza) {
-    ponTexto("Salón-comedor 24,5 m²");
-    pintar();
-    int tinta = 0;
-    for (int y = 0; y < 756; ++y)
-        for (int x = 0; x < 756; ++x) {
-            const QRgb pixel = lienzo.HojaSalida().pixel(x, y);
-            ASSERT_TRUE(pixel == 0xFFFFFFFFU || pixel == 0xFF000000U) << x << " " << y;
-            tinta += pixel == 0xFF000000U ? 1 : 0;
-        }
-    EXPECT_GT(tinta, 300);
-}
-
-TEST_F(LienzoQtPintar, CadaClaseSale) {
-    for (const Muestra& muestra : muestrario()) {
-        dibujo = dibujoDe(muestra, 0.5);
-        pintar();
-        EXPECT_FALSE(enBlanco(lienzo.HojaSalida())) << datos(muestra.clase).nombre << muestra.titulo;
-    }
-}
 
 TEST_F(LienzoQtRecortar, CopiaLosMismosPixeles) {
     ponMuro(3000, 3000, 27, 3000);
@@ -195,7 +43,7 @@ TEST_F(LienzoQtRecortar, CopiaLosMismosPixeles) {
 }
 
 TEST_F(LienzoQtRecortar, FueraDeLaHojaEsBlanco) {
-    lienzo.pintarHoja(100, 50, [](SuperficieSalida& hoja) {
+    lienzo.pintarHoja({100, 50}, [](SuperficieSalida& hoja) {
         hoja.FillStyle(Relleno::solido);
         hoja.FillColor(negro);
         hoja.Caja(-1000, -1000, 10000, 10000, negro);
@@ -310,7 +158,7 @@ TEST_F(LienzoQtPortapapeles, VaciarNoDejaNada) {
     EXPECT_TRUE(!datos || datos->formats().isEmpty());
 }
 
-TEST_F(LienzoQtPintar, LaHojaMasGrandeSeCortaYTodoSigueFuncionando) {
+TEST_F(LienzoQtMemoria, LaHojaMasGrandeSeCortaYTodoSigueFuncionando) {
     dibujo.Hoja.Width = dibujo.Hoja.Height = 3.3e9F;
     ponMuro(3000, 3000, 27, 3000);
     ponMuro(-3e8, 3e8, 45, 1e9);
@@ -321,4 +169,42 @@ TEST_F(LienzoQtPintar, LaHojaMasGrandeSeCortaYTodoSigueFuncionando) {
     lienzo.ponerEnPortapapeles();
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), QSize(ladoMaximo, ladoMaximo));
     QGuiApplication::clipboard()->clear();
+}
+
+TEST_F(LienzoQtMemoria, LaHojaSeCortaALoQueCabeConSusCopias) {
+    // Four of it, and 16 MB more for each: one of 4000 by 2000 takes 30.5 MB.
+    for (const auto& [memoria, tamano] : {std::pair{187 * mega, TamanoSalida{4000, 2000}},
+                                          {186 * mega, TamanoSalida{2000, 2000}},
+                                          {100 * mega, TamanoSalida{2000, 1000}},
+                                          {65 * mega, TamanoSalida{250, 250}},
+                                          {64 * mega, TamanoSalida{}}}) {
+        const auto justo = lienzoCon(memoria);
+        EXPECT_EQ(justo->pintarHoja({4000, 2000}, pintarNegro), tamano) << memoria;
+        EXPECT_EQ(justo->HojaSalida().size(), QSize(tamano.ancho, tamano.alto));
+        if (tamano.ancho > 0) {
+            EXPECT_TRUE(esTinta(justo->HojaSalida(), tamano.ancho - 1, tamano.alto - 1));
+        }
+    }
+}
+
+TEST_F(LienzoQtMemoria, ElRecorteTambien) {
+    const auto justo = lienzoCon(100 * mega);
+    EXPECT_EQ(justo->pintarHoja({700, 700}, pintarNegro), (TamanoSalida{700, 700}));
+    justo->recortar({0, 0, 8000, 500});
+    EXPECT_EQ(justo->RecorteSalida().size(), QSize(8000, 500));
+    justo->recortar({0, 0, 8000, 6000});
+    EXPECT_EQ(justo->RecorteSalida().size(), QSize(2000, 1500));
+    EXPECT_TRUE(esTinta(justo->RecorteSalida(), 699, 699));
+    EXPECT_FALSE(esTinta(justo->RecorteSalida(), 700, 700));
+}
+
+TEST_F(LienzoQtMemoria, SinNadaCadaFinSigueSuCaminoConLoVacio) {
+    const auto justo = lienzoCon(0);
+    EXPECT_EQ(justo->pintarHoja({700, 700}, pintarNegro), TamanoSalida());
+    justo->recortar({0, 0, 100, 100});
+    EXPECT_TRUE(justo->RecorteSalida().isNull());
+    justo->ponerEnPortapapeles();
+    EXPECT_FALSE(QGuiApplication::clipboard()->mimeData()->hasImage());
+    justo->guardar(plataforma.ruta, Profundidad::color);
+    EXPECT_EQ(std::filesystem::file_size(plataforma.ruta), 54U);
 }
