@@ -6,6 +6,7 @@
 #include "persistence/archivo_dibujo.h"
 #include "persistence/perfiles.h"
 #include "platform/extension.h"
+#include "platform/reloj_de_arena.h"
 
 #include <algorithm>
 #include <system_error>
@@ -69,10 +70,11 @@ void GuardarDibujo(Sesion& sesion, fs::path Ruta) {
         Ruta = *elegida;
     }
     borrarAnterior(sesion, Ruta);
-    sesion.plataforma.ponerRelojDeArena(true);
-    escribir(sesion, Ruta);
-    if (!esAutoSave(Ruta)) sesion.plataforma.ponerTitulo(titulo(Ruta));
-    sesion.plataforma.ponerRelojDeArena(false);
+    {
+        const RelojDeArena espera(sesion.plataforma);
+        escribir(sesion, Ruta);
+        if (!esAutoSave(Ruta)) sesion.plataforma.ponerTitulo(titulo(Ruta));
+    }
     if (!esAutoSave(Ruta)) preguntar(sesion, {.titulo = "Aviso", .texto = "Dibujo guardado con éxito"});
 }
 

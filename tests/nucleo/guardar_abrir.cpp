@@ -3,16 +3,19 @@
 #include "apoyo/disco_dificil.h"
 #include "apoyo/idioma.h"
 #include "apoyo/mensajes.h"
+#include "drawing/archivo.h"
 
 #include <gtest/gtest.h>
 #include <optional>
+#include <stdexcept>
 
 using namespace bosquel;
 using apoyo::Banco;
 using apoyo::DiscoLleno;
+using apoyo::enLineas;
 using apoyo::Idioma;
-using apoyo::sinOcultos;
 using apoyo::SinPrivilegios;
+using apoyo::trasAbrir;
 
 namespace {
 
@@ -154,6 +157,26 @@ TEST(Guardar, EnUnDiscoLlenoSePierdeElArchivoAnterior) {
     EXPECT_EQ(banco.plataforma.titulo(), "plano.bqr - Bosquel Rapiz");
 }
 
+TEST(Guardar, EnUnDispositivoLlenoAcabaComoSiempreSinTocarlo) {
+    Banco banco;
+    banco.ponMuro();
+    banco.plataforma.mensajes.clear();
+    banco.plataforma.relojesDeArena.clear();
+    GuardarDibujo(banco.sesion(), "/dev/full");
+    EXPECT_EQ(banco.plataforma.titulo(), " - Bosquel Rapiz");
+    EXPECT_EQ(banco.plataforma.mensajes.size(), 1U);
+    EXPECT_EQ(banco.plataforma.relojesDeArena, (std::vector{true, false}));
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+    EXPECT_TRUE(banco.dibujo().Pared.existe(1));
+}
+
+TEST(Guardar, ElRelojDeArenaSeQuitaAunqueAlgoSeRompa) {
+    Banco banco;
+    banco.plataforma.alPonerTitulo = [] { throw std::runtime_error("no title"); };
+    EXPECT_THROW(GuardarDibujo(banco.sesion(), banco.ruta("plano.bqr")), std::runtime_error);
+    EXPECT_EQ(banco.plataforma.relojesDeArena, (std::vector{true, false}));
+}
+
 TEST(Guardar, EnElNombreDeUnaCarpetaODeUnDispositivoNoSeEscribe) {
     Banco banco;
     std::filesystem::create_directory(banco.ruta("carpeta.bqr"));
@@ -174,7 +197,7 @@ TEST(Abrir, LoGuardadoVuelveYSeGuardaIgual) {
         banco.guarda("uno.bqr");
         banco.abre("uno.bqr");
         banco.guarda("dos.bqr");
-        EXPECT_EQ(sinOcultos(banco.lineas("dos.bqr")), sinOcultos(banco.lineas("uno.bqr")));
+        EXPECT_EQ(banco.bytes("dos.bqr"), enLineas(trasAbrir(banco.lineas("uno.bqr"))));
         Banco otro;
         otro.pon("uno.bqr", banco.bytes("uno.bqr"));
         otro.abre("uno.bqr");
@@ -240,7 +263,14 @@ TEST(Abrir, SinCabeceraDaUnDibujoVacioConSuTitulo) {
     banco.ponMuro();
     banco.pon("otro.ini", "hola\r\n[Otra]\r\nNumPared=9\r\n");
     banco.abre("otro.ini");
-    EXPECT_EQ(banco.dibujo().Pared.ultimo(), 0);
+    EXPECT_EQ(banco.hoja().Width, 10000.0F);
+    EXPECT_EQ(banco.hoja().Height, 10000.0F);
+    for (const DatosClase& fila : todasLasClases())
+        conColeccion(banco.dibujo(), fila.clase, [&](const auto& coleccion) {
+            const bool suContador = fila.clase == Clase::Escalera || fila.clase == Clase::Electrico;
+            EXPECT_EQ(coleccion.contador, fila.clase == Clase::Electrico ? 2 : 1) << fila.nombre;
+            EXPECT_EQ(coleccion.ultimo(), suContador ? 1 : 0) << fila.nombre;
+        });
     EXPECT_EQ(banco.plataforma.titulo(), "otro.ini - Bosquel Rapiz");
 }
 
