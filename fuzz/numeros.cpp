@@ -37,7 +37,7 @@ std::string sinBlancosIngenuo(std::string texto) {
 }
 
 /// The number that a text is, letter by letter; under the locale "C", for `strtod` follows it.
-std::optional<double> leerIngenuo(const std::string& texto, char decimal, char grupo) {
+std::optional<double> leerIngenuo(const std::string& texto, std::optional<char> decimal, char grupo) {
     std::string llano;
     std::size_t i = 0;
     const auto cifras = [&](bool agrupadas) {
@@ -80,7 +80,7 @@ std::optional<double> leerTecleadoIngenuo(std::string texto) {
 std::optional<double> leerEnteroIngenuo(std::string texto) {
     for (char& c : texto)
         if (c == '.') c = ',';
-    return leerIngenuo(texto, '\0', ',');
+    return leerIngenuo(texto, std::nullopt, ',');
 }
 
 /// All the digits there are, rounded as at school; with a point.

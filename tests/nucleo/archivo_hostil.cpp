@@ -1,15 +1,20 @@
 #include "apoyo/banco.h"
 #include "apoyo/dibujo_guardado.h"
 #include "apoyo/idioma.h"
+#include "apoyo/muestrario.h"
 #include "furnishing/dibujar_elemento.h"
 #include "furnishing/recuadro.h"
 #include "model/windows1252.h"
+#include "surface/fila.h"
 #include "surface/medidora.h"
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <sys/resource.h>
+#include <unistd.h>
 
 using namespace bosquel;
 using apoyo::Banco;
@@ -76,6 +81,16 @@ Lineas todoA(const std::string& numero) {
         lineas.emplace_back("Visible=Verdadero");
     }
     return lineas;
+}
+
+/// The process may take so many bytes more than it has, and no more.
+void limitarMemoria(std::size_t mas) {
+    std::ifstream estado("/proc/self/statm");
+    rlim_t paginas = 0;
+    estado >> paginas;
+    const rlim_t bytes = paginas * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE)) + mas;
+    const rlimit limite{bytes, bytes};
+    ASSERT_EQ(::setrlimit(RLIMIT_AS, &limite), 0);
 }
 
 /// What a user does first, and saves of which the third has to follow from the second.
@@ -181,6 +196,27 @@ TEST(ArchivoHostil, NumerosDescabelladosEnTodaClaveSeAguantan) {
     }
 }
 
+TEST(ArchivoHostil, FilasSinFinNiSeAtascanAlMedirlasNiAlPintarlas) {
+    constexpr int cuantos = 1000;
+    Lineas lineas = {"[Cabecera]", "NumAsiento=1001", "NumFregadero=1001", "NumEscalera=1000"};
+    const auto poner = [&](const char* clase, int i, const Lineas& claves) {
+        lineas.push_back("[" + std::string(clase) + "(" + std::to_string(i) + ")]");
+        lineas.insert(lineas.end(), claves.begin(), claves.end());
+        lineas.emplace_back("Visible=Verdadero");
+    };
+    for (int i = 1; i <= cuantos; ++i) {
+        poner("Asiento", i, {"NumeroAsientos=1E+38"});
+        poner("Fregadero", i, {"NumeroSenos=1E+308"});
+        poner("Escalera", i,
+              {"Stairs=3", "StepsStair1=2147483647", "StepsStair2=2147483647", "StepsStair3=2147483647"});
+    }
+    Banco banco;
+    abrir(banco, lineas);
+    usar(banco);
+    for (const Clase clase : {Clase::MblAsiento, Clase::MblFregadero, Clase::Escalera})
+        EXPECT_LE(apoyo::trazosDe(banco.dibujo(), clase).size(), 3U * maximoEnFila + 20U);
+}
+
 TEST(ArchivoHostil, CienMegasDeNadaSonUnDibujoVacio) {
     Banco banco;
     banco.ponMuro();
@@ -210,6 +246,27 @@ TEST(ArchivoHostil, UnDibujoEnMedioDeMillonesDeLineasSeEncuentra) {
         ASSERT_TRUE(banco.dibujo().MblMesa.existe(1)) << relleno;
         EXPECT_TRUE(banco.dibujo().MblMesa.en(1)->Visible) << relleno;
     }
+}
+
+TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYTreintaYDosBytesMasPorNombre) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer takes room of its own";
+#endif
+    Banco banco;
+    std::ostringstream texto;
+    constexpr std::size_t nombres = 540'000;
+    for (std::size_t i = 0; i < nombres; ++i)
+        texto << '[' << i << "]\n";
+    texto << "[Cabecera]\nAnchoAreaDibujo=123\n";
+    const std::string bytes = texto.str();
+    banco.pon("nombres.bqr", bytes);
+    const auto abrirConPocaMemoria = [&] {
+        constexpr std::size_t loDemas = 1'000'000;
+        limitarMemoria(bytes.size() + 32 * nombres + loDemas);
+        banco.abre("nombres.bqr");
+        ::_exit(banco.hoja().Width == 123.0F ? 0 : 1);
+    };
+    EXPECT_EXIT(abrirConPocaMemoria(), testing::ExitedWithCode(0), "");
 }
 
 TEST(ArchivoHostil, SeccionesYClavesDistintasPorMillaresNoSePierden) {
