@@ -4,6 +4,7 @@
 #include "persistence/campos.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 #include <vector>
 
 using namespace bosquel;
@@ -56,6 +57,40 @@ TEST(Ejemplos, VuelvenComoEstabanBajoCualquierIdioma) {
                       enLineas(trasAbrir(conBarandasDelIdioma(banco.lineas("ejemplo.bqr")))))
                 << ejemplo;
         }
+    }
+}
+
+TEST(Ejemplos, ConHuecosYTextosDificilesVuelvenByteAByte) {
+    for (const char* nombre : {Idioma::espanol, Idioma::ingles}) {
+        const Idioma idioma(nombre);
+        Banco banco;
+        abrir(banco, bytesDe(raiz / "ejemplos" / "piso-amueblado.bqr"));
+        Dibujo& dibujo = banco.dibujo();
+        // Twice as many of each kind, of which the first goes; and a stretch of indices that nobody has.
+        for (const DatosClase& fila : todasLasClases())
+            conColeccion(dibujo, fila.clase, [&](auto& coleccion) {
+                auto copia = *coleccion.en(coleccion.ultimo());
+                coleccion.quitar(1);
+                avanzar(coleccion.contador);
+                avanzar(coleccion.contador);
+                coleccion.crear(coleccion.contador) = copia;
+                avanzar(coleccion.contador);
+            });
+        dibujo.Electrico.en(dibujo.Electrico.ultimo())->Angle = -22.5;
+        dibujo.MblMesa.modelo().MesaDimX = 1234.5;
+        dibujo.MblFregadero.modelo().Escurridor = 0;
+        dibujo.TextoLibre.en(dibujo.TextoLibre.ultimo())->Text = "\"entre comillas\"";
+        dibujo.TextoLibre.crear(dibujo.TextoLibre.contador).Text = std::string(300, 'x');
+        avanzar(dibujo.TextoLibre.contador);
+        banco.guarda("uno.bqr");
+        for (const auto& [antes, despues] : {std::pair{"uno.bqr", "dos.bqr"}, {"dos.bqr", "tres.bqr"}}) {
+            banco.abre(antes);
+            banco.guarda(despues);
+            EXPECT_EQ(banco.bytes(despues), enLineas(trasAbrir(banco.lineas(antes))));
+        }
+        EXPECT_EQ(apoyo::cabezas(banco.lineas("tres.bqr")).size(),
+                  apoyo::cabezas(banco.lineas("dos.bqr")).size() + 1)
+            << "one hidden symbol more";
     }
 }
 
