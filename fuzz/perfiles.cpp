@@ -60,7 +60,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t cua
     PerfilIngenuo modelo(partes[0]);
     ArchivoPerfil tanda(otra);
     for (std::size_t i = 1; i + 1 < partes.size() && i < 3 * muchas; i += 3) {
-        const std::string &seccion = partes[i], &clave = partes[i + 1];
+        const std::string& seccion = partes[i];
+        const std::string& clave = partes[i + 1];
         const auto comprobar = [&](const char* cuando) {
             const std::string esperado = modelo.leer(seccion, clave, nada);
             exigir(aWindows1252(LeerIni(una, aUtf8(seccion), aUtf8(clave), nada)) == esperado, cuando);

@@ -129,7 +129,7 @@ Lineas trasAbrir(const Lineas& guardado) {
         if (!lineas.empty()) lineas.emplace_back();
         lineas.push_back("[" + nombre + "]");
         for (const auto& [clave, valor] : despues[nombre])
-            lineas.push_back(clave + "=" + valor);
+            lineas.emplace_back(clave).append("=").append(valor);
     }
     return lineas;
 }
