@@ -9,6 +9,7 @@
 #include "platform/reloj_de_arena.h"
 
 #include <algorithm>
+#include <new>
 #include <system_error>
 
 namespace bosquel {
@@ -55,10 +56,12 @@ bool esAutoSave(const fs::path& ruta) {
     return enMinusculas(ruta.string()).find(enMinusculas(ficheroAutoSave)) != std::string::npos;
 }
 
-void escribir(const Sesion& sesion, const fs::path& ruta) {
+/// A write that fails goes unnoticed, and one for which there is no memory is a write that fails.
+void escribir(const Sesion& sesion, const fs::path& ruta) try {
     ArchivoPerfil archivo(ruta);
     escribirDibujo(archivo, sesion.dibujo);
     archivo.volcar();
+} catch (const std::bad_alloc&) {
 }
 
 }  // namespace

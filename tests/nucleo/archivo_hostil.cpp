@@ -2,6 +2,7 @@
 #include "apoyo/dibujo_guardado.h"
 #include "apoyo/idioma.h"
 #include "apoyo/muestrario.h"
+#include "apoyo/poca_memoria.h"
 #include "furnishing/dibujar_elemento.h"
 #include "furnishing/recuadro.h"
 #include "model/windows1252.h"
@@ -10,10 +11,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
-#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace bosquel;
@@ -81,16 +80,6 @@ Lineas todoA(const std::string& numero) {
         lineas.emplace_back("Visible=Verdadero");
     }
     return lineas;
-}
-
-/// The process may take so many bytes more than it has, and no more.
-void limitarMemoria(std::size_t mas) {
-    std::ifstream estado("/proc/self/statm");
-    rlim_t paginas = 0;
-    estado >> paginas;
-    const rlim_t bytes = paginas * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE)) + mas;
-    const rlimit limite{bytes, bytes};
-    ASSERT_EQ(::setrlimit(RLIMIT_AS, &limite), 0);
 }
 
 /// What a user does first, and saves of which the third has to follow from the second.
@@ -249,9 +238,7 @@ TEST(ArchivoHostil, UnDibujoEnMedioDeMillonesDeLineasSeEncuentra) {
 }
 
 TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYTreintaYDosBytesMasPorNombre) {
-#ifdef __SANITIZE_ADDRESS__
-    GTEST_SKIP() << "the sanitizer takes room of its own";
-#endif
+    if (apoyo::memoriaSinLimite) GTEST_SKIP() << "the sanitizer takes room of its own";
     Banco banco;
     std::ostringstream texto;
     constexpr std::size_t nombres = 540'000;
@@ -262,7 +249,7 @@ TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYTreintaYDosBytesMasPo
     banco.pon("nombres.bqr", bytes);
     const auto abrirConPocaMemoria = [&] {
         constexpr std::size_t loDemas = 1'000'000;
-        limitarMemoria(bytes.size() + 32 * nombres + loDemas);
+        apoyo::limitarMemoria(bytes.size() + 32 * nombres + loDemas);
         banco.abre("nombres.bqr");
         ::_exit(banco.hoja().Width == 123.0F ? 0 : 1);
     };

@@ -3,6 +3,7 @@
 #include "apoyo/disco_dificil.h"
 #include "apoyo/idioma.h"
 #include "apoyo/mensajes.h"
+#include "apoyo/poca_memoria.h"
 #include "drawing/archivo.h"
 
 #include <gtest/gtest.h>
@@ -168,6 +169,22 @@ TEST(Guardar, EnUnDispositivoLlenoAcabaComoSiempreSinTocarlo) {
     EXPECT_EQ(banco.plataforma.relojesDeArena, (std::vector{true, false}));
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
     EXPECT_TRUE(banco.dibujo().Pared.existe(1));
+}
+
+TEST(Guardar, SinMemoriaParaEscribirAcabaComoSiempreSinArchivo) {
+    if (apoyo::memoriaSinLimite) GTEST_SKIP() << "the sanitizer takes room of its own";
+    Banco banco;
+    banco.pon("enorme.bqr", "[Cabecera]\r\nNumDucha=32767\r\n");
+    banco.abre("enorme.bqr");
+    const auto guardarSinMemoria = [&] {
+        apoyo::limitarMemoria(1'000'000);
+        banco.guarda("enorme.bqr");
+        const bool comoSiempre = banco.plataforma.titulo() == " - Bosquel Rapiz" &&
+                                 banco.plataforma.mensajes.size() == 1 && !banco.plataforma.relojDeArena() &&
+                                 !banco.sesion().Ocupado && banco.carpeta.cuantos() == 0;
+        ::_exit(comoSiempre ? 0 : 1);
+    };
+    EXPECT_EXIT(guardarSinMemoria(), testing::ExitedWithCode(0), "");
 }
 
 TEST(Guardar, ElRelojDeArenaSeQuitaAunqueAlgoSeRompa) {
