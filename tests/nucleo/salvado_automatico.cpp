@@ -226,6 +226,19 @@ TEST(SalvadoAutomatico, EnUnaCarpetaDeSoloLecturaNoPasaNada) {
     EXPECT_TRUE(salvado(banco));
 }
 
+TEST(SalvadoAutomatico, SinLaCarpetaDelProgramaNoPasaNada) {
+    Banco banco;
+    std::filesystem::remove_all(banco.carpeta.ruta());
+    banco.minutos(5);
+    EXPECT_FALSE(std::filesystem::exists(banco.carpeta.ruta()));
+    EXPECT_FALSE(banco.sesion().GuardandoAuto);
+    EXPECT_EQ(banco.plataforma.relojesDeArena, (std::vector{true, false}));
+    EXPECT_TRUE(banco.plataforma.mensajes.empty());
+    std::filesystem::create_directory(banco.carpeta.ruta());
+    banco.minutos(5);
+    EXPECT_TRUE(salvado(banco));
+}
+
 TEST(SalvadoAutomatico, EnUnDiscoLlenoSePierdeElAnteriorYElSiguienteSale) {
     Banco banco;
     banco.minutos(5);
