@@ -158,6 +158,28 @@ TEST(Guardar, EnUnDiscoLlenoSePierdeElArchivoAnterior) {
     EXPECT_EQ(banco.plataforma.titulo(), "plano.bqr - Bosquel Rapiz");
 }
 
+TEST(Guardar, EnUnSistemaDeArchivosSinSitioSePierdeElAnteriorYNadaMasSeNota) {
+    constexpr int todoBien = 0;
+    constexpr int sinPermiso = 2;
+    Banco banco;
+    const auto guardarSinSitio = [&] {
+        constexpr int sitio = 16 * 1024;
+        if (!apoyo::montarDiscoPequeno(banco.carpeta.ruta(), sitio)) return sinPermiso;
+        banco.guarda("plano.bqr");
+        if (banco.plataforma.titulo() != "plano.bqr - Bosquel Rapiz") return 1;
+        // Somebody takes the room that the old file leaves.
+        banco.plataforma.alCederEventos = [&] { banco.pon("relleno", std::string(sitio, 'x')); };
+        banco.guarda("plano.bqr");
+        const bool comoSiempre = banco.plataforma.titulo() == " - Bosquel Rapiz" &&
+                                 banco.plataforma.mensajes.size() == 2 && !banco.plataforma.relojDeArena() &&
+                                 banco.carpeta.cuantos() == 1;
+        return comoSiempre ? todoBien : 1;
+    };
+    const int fin = apoyo::enOtroProceso(guardarSinSitio);
+    if (fin == sinPermiso) GTEST_SKIP() << "only the superuser mounts file systems";
+    EXPECT_EQ(fin, todoBien);
+}
+
 TEST(Guardar, EnUnDispositivoLlenoAcabaComoSiempreSinTocarlo) {
     Banco banco;
     banco.ponMuro();
