@@ -239,6 +239,7 @@ TEST(ArchivoHostil, UnDibujoEnMedioDeMillonesDeLineasSeEncuentra) {
 
 TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYTreintaYDosBytesMasPorNombre) {
     if (apoyo::memoriaSinLimite) GTEST_SKIP() << "the sanitizer takes room of its own";
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, with no room left by other tests
     Banco banco;
     std::ostringstream texto;
     constexpr std::size_t nombres = 540'000;

@@ -195,6 +195,7 @@ TEST(Guardar, EnUnDispositivoLlenoAcabaComoSiempreSinTocarlo) {
 
 TEST(Guardar, SinMemoriaParaEscribirAcabaComoSiempreSinArchivo) {
     if (apoyo::memoriaSinLimite) GTEST_SKIP() << "the sanitizer takes room of its own";
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, with no room left by other tests
     Banco banco;
     banco.pon("enorme.bqr", "[Cabecera]\r\nNumDucha=32767\r\n");
     banco.abre("enorme.bqr");
