@@ -6,8 +6,10 @@
 #include "persistence/archivo_dibujo.h"
 #include "persistence/perfiles.h"
 #include "platform/extension.h"
+#include "platform/reloj_de_arena.h"
 
 #include <algorithm>
+#include <new>
 #include <system_error>
 
 namespace bosquel {
@@ -54,10 +56,12 @@ bool esAutoSave(const fs::path& ruta) {
     return enMinusculas(ruta.string()).find(enMinusculas(ficheroAutoSave)) != std::string::npos;
 }
 
-void escribir(const Sesion& sesion, const fs::path& ruta) {
+/// A write that fails goes unnoticed, and one for which there is no memory is a write that fails.
+void escribir(const Sesion& sesion, const fs::path& ruta) try {
     ArchivoPerfil archivo(ruta);
     escribirDibujo(archivo, sesion.dibujo);
     archivo.volcar();
+} catch (const std::bad_alloc&) {
 }
 
 }  // namespace
@@ -69,10 +73,11 @@ void GuardarDibujo(Sesion& sesion, fs::path Ruta) {
         Ruta = *elegida;
     }
     borrarAnterior(sesion, Ruta);
-    sesion.plataforma.ponerRelojDeArena(true);
-    escribir(sesion, Ruta);
-    if (!esAutoSave(Ruta)) sesion.plataforma.ponerTitulo(titulo(Ruta));
-    sesion.plataforma.ponerRelojDeArena(false);
+    {
+        const RelojDeArena espera(sesion.plataforma);
+        escribir(sesion, Ruta);
+        if (!esAutoSave(Ruta)) sesion.plataforma.ponerTitulo(titulo(Ruta));
+    }
     if (!esAutoSave(Ruta)) preguntar(sesion, {.titulo = "Aviso", .texto = "Dibujo guardado con éxito"});
 }
 

@@ -1,15 +1,15 @@
 #include "drawing/archivo.h"
+#include "drawing/marca.h"
 
 namespace bosquel {
 
 namespace {
 
 void salvar(Sesion& sesion) {
-    sesion.GuardandoAuto = true;
+    const Marca guardando(sesion.GuardandoAuto);
     sesion.SalvadoPendiente = false;
     sesion.MinutosAutoSave = 0;
     GuardarDibujo(sesion, sesion.carpeta / ficheroAutoSave);
-    sesion.GuardandoAuto = false;
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include "drawing/foco.h"
+#include "drawing/marca.h"
 #include "drawing/seleccion.h"
 #include "drawing/texto_libre.h"
 #include "drawing/vista.h"
@@ -101,7 +102,7 @@ void conservarCentro(float& lugar, double visor, double relacion) {
 
 void EjecutarZOOM(Sesion& sesion) {
     if (sesion.EjecutandoZoom) return;
-    sesion.EjecutandoZoom = true;
+    const Marca ampliando(sesion.EjecutandoZoom);
     Dibujo& dibujo = sesion.dibujo;
     anunciarTodo(dibujo);
     darPaso(dibujo);
@@ -119,7 +120,6 @@ void EjecutarZOOM(Sesion& sesion) {
     ActualizarBarras(sesion);
     if (dibujo.VerCuadricula) DibujarCuadricula(sesion);
     if (sesion.foco) enmarcar(sesion, *sesion.foco);
-    sesion.EjecutandoZoom = false;
 }
 
 }  // namespace bosquel

@@ -1,4 +1,5 @@
 #include "furnishing/figuras.h"
+#include "surface/fila.h"
 
 #include <algorithm>
 #include <cmath>
@@ -40,8 +41,9 @@ void asientos(const Pluma& pluma, const Postura& postura, const MblAsiento& asie
     caja(pluma, postura, {alFondo ? F : 0, B / 2}, {B, n * W + B});
     caja(pluma, postura, {brazo, 0}, {F - B / 2, B});
     caja(pluma, postura, {brazo, B + n * W}, {F - B / 2, B});
-    for (int i = 0; i < cuantosEnFila(n); ++i)
+    porFila(pluma.salida().superficie, 0, ultimoDeFila(n), [&](int i) {
         caja(pluma, postura, {alFondo ? 0 : B, B + i * W}, {F, W});
+    });
 }
 
 /// A seat and, a gap behind it, the strip of its back.
@@ -55,8 +57,8 @@ void silla(const Pluma& pluma, const Postura& postura, double lado) {
 
 }  // namespace
 
-int cuantosEnFila(double n) {
-    return static_cast<int>(std::clamp(std::floor(n), 1.0, 32767.0));
+int ultimoDeFila(double n) {
+    return static_cast<int>(std::clamp(std::floor(n) - 1, 0.0, double{maximoEnFila}));
 }
 
 void figura(const Pluma& pluma, const MblAsiento& asiento) {

@@ -29,8 +29,8 @@ void figura(const Pluma& pluma, const MblLavadora& lavadora);
 void figura(const Pluma& pluma, const MblLavadero& lavadero);
 void figura(const Pluma& pluma, const MblVertedero& vertedero);
 
-/// How many seats or bowls a row of `n` has: one at least, and no more than 32767, whatever a file asks for.
-int cuantosEnFila(double n);
+/// The index of the last seat or bowl in a row of `n`, which has one at least.
+int ultimoDeFila(double n);
 
 /// The side that a kind holds as a text in centimetres, in mm; blanks around it come off.
 std::optional<double> ladoDeTexto(std::string_view texto);

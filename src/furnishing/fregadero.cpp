@@ -1,4 +1,5 @@
 #include "furnishing/figuras.h"
+#include "surface/fila.h"
 
 namespace bosquel {
 
@@ -38,8 +39,9 @@ class Fregadero {
     void dibujar() const {
         cuadro(0, 0, 425 * senos_ + 300 * escurridor_ + 200 - 20, 490);
         if (postura_.escurridorDelante) escurridor(100);
-        for (int i = 0; i < cuantosEnFila(senos_); ++i)
+        porFila(pluma_.salida().superficie, 0, ultimoDeFila(senos_), [&](int i) {
             seno(i * 425.0 + (postura_.escurridorDelante ? 350 * escurridor_ + 300 : 275));
+        });
         if (!postura_.escurridorDelante) escurridor(425 * senos_ + 100);
     }
 

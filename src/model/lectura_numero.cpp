@@ -110,7 +110,7 @@ std::optional<double> realTecleado(std::string_view texto) {
 }
 
 std::optional<double> enteroTecleado(std::string_view texto) {
-    return leer(sinSeparadores(sinBlancos(texto)), std::string_view::npos);
+    return leer(sinBlancos(texto), std::string_view::npos);
 }
 
 }  // namespace bosquel

@@ -1,27 +1,13 @@
 #include "model/dibujo.h"
 #include "output/image_crop.h"
 #include "platform/extension.h"
-#include "platform/plataforma.h"
+#include "platform/reloj_de_arena.h"
 
 namespace bosquel {
 
 namespace {
 
 constexpr const char* esquemaDeDosTonos = "Blanco y Negro";
-
-/// The hourglass, while a large picture is being worked on.
-class RelojDeArena {
-  public:
-    explicit RelojDeArena(Plataforma& plataforma) : plataforma_(plataforma) {
-        plataforma_.ponerRelojDeArena(true);
-    }
-    RelojDeArena(const RelojDeArena&) = delete;
-    RelojDeArena& operator=(const RelojDeArena&) = delete;
-    ~RelojDeArena() { plataforma_.ponerRelojDeArena(false); }
-
-  private:
-    Plataforma& plataforma_;
-};
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -14,7 +15,7 @@ class IndiceNombres {
     /// Gives the name that stands at a place of a text.
     using NombreEn = std::string_view (*)(std::string_view texto, std::size_t lugar);
 
-    explicit IndiceNombres(NombreEn nombreEn) : nombreEn_(nombreEn), casillas_(alPrincipio, libre) {}
+    explicit IndiceNombres(NombreEn nombreEn) : nombreEn_(nombreEn), casillas_(alPrincipio) {}
 
     std::optional<std::size_t> buscar(std::string_view texto, std::string_view nombre) const;
     void anadir(std::string_view texto, std::size_t lugar);
@@ -25,13 +26,23 @@ class IndiceNombres {
 
   private:
     static constexpr std::size_t alPrincipio = 64;  ///< a power of two, as every number of squares
-    static constexpr std::size_t libre = static_cast<std::size_t>(-1);
+    static constexpr auto libre = static_cast<std::uint32_t>(-1);
 
-    std::size_t casillaDe(std::string_view texto, std::string_view nombre) const;
-    void crecer(std::string_view texto);
+    /// A place, in 32 bits since no profile that is read or written comes near 4 GB, and the print of the
+    /// name there: it tells most other names apart, and finds the name its square in a larger table, without
+    /// a look at the text.
+    struct Casilla {
+        std::uint32_t lugar = libre;
+        std::uint32_t huella = 0;
+    };
+
+    template <class Vale>
+    std::size_t casillaDe(std::uint32_t huella, Vale vale) const;
+    std::size_t casillaDe(std::string_view texto, std::string_view nombre, std::uint32_t huella) const;
+    void crecer();
 
     NombreEn nombreEn_;
-    std::vector<std::size_t> casillas_;  ///< never more than half full
+    std::vector<Casilla> casillas_;  ///< never more than three quarters full
     std::size_t ocupadas_ = 0;
 };
 

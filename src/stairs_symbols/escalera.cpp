@@ -1,5 +1,6 @@
 #include "stairs_symbols/escalera.h"
 
+#include "surface/fila.h"
 #include "surface/primitivas.h"
 
 #include <algorithm>
@@ -8,9 +9,6 @@
 namespace bosquel {
 
 namespace {
-
-/// More steps in a flight than these are not drawn, whatever a file asks for.
-constexpr std::int32_t maximoPeldanos = 32767;
 
 class Trazado {
   public:
@@ -62,14 +60,15 @@ class Trazado {
     void recuadro(PuntoSalida desde, double largo, double ancho) const {
         TrazarRecuadro(salida_.superficie, escalera_.LineColor, desde, largo, s_ * ancho, angulo_);
     }
-    std::int32_t peldanos(std::size_t tramo) const {
-        return std::min(escalera_.StepsStair[tramo], maximoPeldanos);
+    /// Draws the strokes between the steps of a flight: one less than there are steps.
+    template <class Paso>
+    void peldanos(std::size_t tramo, Paso paso) const {
+        porFila(salida_.superficie, 1, std::max(escalera_.StepsStair[tramo], 1) - 1, paso);
     }
 
     void tramoUno() const {
         recuadro(P_, p_.L[0], p_.W[0]);
-        for (int i = 1; i < peldanos(0); ++i)
-            rectaTraves(aLoLargo(P_, i * p_.t), p_.W[0]);
+        peldanos(0, [&](int i) { rectaTraves(aLoLargo(P_, i * p_.t), p_.W[0]); });
     }
 
     void ojo() const {
@@ -80,16 +79,14 @@ class Trazado {
 
     void tramoDos() const {
         recuadro(N(p_.L[0], p_.W[0]), p_.W[1], p_.L[1]);
-        for (int i = 1; i < peldanos(1); ++i)
-            rectaLarga(N(p_.L[0], i * p_.t + p_.W[0]), p_.W[1]);
+        peldanos(1, [&](int i) { rectaLarga(N(p_.L[0], i * p_.t + p_.W[0]), p_.W[1]); });
     }
 
     void tramoTres() const {
         const double salto = p_.t * (static_cast<double>(escalera_.StepsStair[0]) - escalera_.StepsStair[2]);
         const PuntoSalida Q = aLoLargo(traves(P_, p_.W[0] + p_.e), salto);
         recuadro(Q, p_.L[2], p_.W[2]);
-        for (int i = 1; i < peldanos(2); ++i)
-            rectaTraves(aLoLargo(Q, i * p_.t), p_.W[2]);
+        peldanos(2, [&](int i) { rectaTraves(aLoLargo(Q, i * p_.t), p_.W[2]); });
     }
 
     void barandaUno() const {

@@ -18,6 +18,7 @@ class Medidora : public SuperficieSalida {
     void ForeColor(Color) override {}
     void FontSize(float puntos) override { puntos_ = puntos; }
     void Print(std::string_view texto) override;
+    bool bastanLosExtremos() const override { return true; }
 
     /// Nothing if nothing has been drawn.
     const std::optional<Recuadro>& extension() const { return extension_; }

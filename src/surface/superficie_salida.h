@@ -60,6 +60,9 @@ class SuperficieSalida {
     /// A text whose top left corner is (`CurrentX`, `CurrentY`), in `ForeColor` and `FontSize`.
     virtual void Print(std::string_view texto) = 0;
 
+    /// True where nothing counts but the extent of what is drawn.
+    virtual bool bastanLosExtremos() const { return false; }
+
   protected:
     virtual void trazarLinea(double x1, double y1, double x2, double y2, Color color) = 0;
     virtual void trazarCaja(double x1, double y1, double x2, double y2, Color color) = 0;

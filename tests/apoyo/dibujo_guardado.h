@@ -17,8 +17,9 @@ Lineas cabezas(const Lineas& lineas);
 /// The value of a key; empty if it is not there.
 std::string valor(const Lineas& lineas, const std::string& seccion_, const std::string& clave);
 
-/// The drawing without what opening a file adds to it: the hidden stair and symbol, and the step of the
-/// symbols' counter.
-Lineas sinOcultos(const Lineas& lineas);
+/// What a save writes, line by line, once the drawing that an earlier save wrote has been opened: the same,
+/// but for the gaps that come back as hidden elements, the one symbol beyond the last, its counter, and texts
+/// that do not read back as they stand. Worked out from the lines alone, under the locale of the process.
+Lineas trasAbrir(const Lineas& guardado);
 
 }  // namespace bosquel::apoyo

@@ -30,7 +30,7 @@ class PlataformaFalsa : public Plataforma {
     std::function<void(PuertaProp&)> alAbrirPuerta;
     std::function<void(VentanaProp&)> alAbrirVentana;
     std::function<void(Paralelas&)> alAbrirParalelas;
-    std::function<void()> alCederEventos;
+    std::function<void()> alCederEventos, alPonerTitulo;
 
     // What has been asked.
     std::vector<Mensaje> mensajes;
@@ -80,7 +80,10 @@ class PlataformaFalsa : public Plataforma {
     void activar(Reloj reloj, bool activo) override;
     void ponerCursor(Cursor cursor) override { cursores.push_back(cursor); }
     void ponerRelojDeArena(bool puesto) override { relojesDeArena.push_back(puesto); }
-    void ponerTitulo(const std::string& titulo) override { titulos.push_back(titulo); }
+    void ponerTitulo(const std::string& titulo) override {
+        titulos.push_back(titulo);
+        if (alPonerTitulo) alPonerTitulo();
+    }
     void mostrarAyuda(const std::filesystem::path& manual) override { ayudas.push_back(manual); }
     void vistaCambiada() override { ++vistas; }
     void repintar(const ZonaSucia& zona, const ZonaSucia& paso) override;

@@ -390,6 +390,14 @@ TEST(ArchivoCampos, UnDibujoNuevoTieneElModeloDeCadaClaseEnSuOrden) {
     EXPECT_EQ(cabezas(guardar(banco)), esperadas);
 }
 
+TEST(ArchivoCampos, SinVentanasSeEscribeElModeloDeLaVentana) {
+    Banco banco;
+    const Lineas lineas = guardar(banco);
+    EXPECT_EQ(valor(lineas, "Cabecera", "NumVentana"), "1");
+    EXPECT_EQ(seccion(lineas, "Ventana(0)").size(), 11U);
+    EXPECT_TRUE(seccion(lineas, "Ventana(1)").empty());
+}
+
 TEST(ArchivoCampos, LaEscaleraDelContadorSeEscribeSiExiste) {
     Banco banco;
     banco.dibujo().Escalera.crear(1);

@@ -1,15 +1,18 @@
 #include "apoyo/banco.h"
 #include "apoyo/dibujo_guardado.h"
 #include "apoyo/idioma.h"
+#include "persistence/campos.h"
 
 #include <gtest/gtest.h>
+#include <utility>
 #include <vector>
 
 using namespace bosquel;
 using apoyo::Banco;
 using apoyo::bytesDe;
+using apoyo::enLineas;
 using apoyo::Idioma;
-using apoyo::sinOcultos;
+using apoyo::trasAbrir;
 
 namespace {
 
@@ -20,11 +23,13 @@ void abrir(Banco& banco, const std::string& texto) {
     banco.abre("ejemplo.bqr");
 }
 
-/// Without what opening adds, and without the one thing that is written in the words of the locale.
-apoyo::Lineas sinBarandas(const apoyo::Lineas& lineas) {
-    apoyo::Lineas quedan = sinOcultos(lineas);
-    std::erase_if(quedan, [](const std::string& linea) { return linea.starts_with("RailingSide"); });
-    return quedan;
+/// The one thing in the examples that is written in the words of the locale.
+apoyo::Lineas conBarandasDelIdioma(apoyo::Lineas lineas) {
+    for (std::string& linea : lineas)
+        if (linea.starts_with("RailingSide"))
+            linea.replace(linea.find('=') + 1, std::string::npos,
+                          BooleanoDelIdioma::texto(linea.ends_with("Verdadero") || linea.ends_with("True")));
+    return lineas;
 }
 
 template <class T>
@@ -48,9 +53,44 @@ TEST(Ejemplos, VuelvenComoEstabanBajoCualquierIdioma) {
             Banco banco;
             abrir(banco, bytesDe(raiz / "ejemplos" / ejemplo));
             banco.guarda("otra.bqr");
-            EXPECT_EQ(sinBarandas(banco.lineas("otra.bqr")), sinBarandas(banco.lineas("ejemplo.bqr")))
+            EXPECT_EQ(banco.bytes("otra.bqr"),
+                      enLineas(trasAbrir(conBarandasDelIdioma(banco.lineas("ejemplo.bqr")))))
                 << ejemplo;
         }
+    }
+}
+
+TEST(Ejemplos, ConHuecosYTextosDificilesVuelvenByteAByte) {
+    for (const char* nombre : {Idioma::espanol, Idioma::ingles}) {
+        const Idioma idioma(nombre);
+        Banco banco;
+        abrir(banco, bytesDe(raiz / "ejemplos" / "piso-amueblado.bqr"));
+        Dibujo& dibujo = banco.dibujo();
+        // Twice as many of each kind, of which the first goes; and a stretch of indices that nobody has.
+        for (const DatosClase& fila : todasLasClases())
+            conColeccion(dibujo, fila.clase, [&](auto& coleccion) {
+                auto copia = *coleccion.en(coleccion.ultimo());
+                coleccion.quitar(1);
+                avanzar(coleccion.contador);
+                avanzar(coleccion.contador);
+                coleccion.crear(coleccion.contador) = copia;
+                avanzar(coleccion.contador);
+            });
+        dibujo.Electrico.en(dibujo.Electrico.ultimo())->Angle = -22.5;
+        dibujo.MblMesa.modelo().MesaDimX = 1234.5;
+        dibujo.MblFregadero.modelo().Escurridor = 0;
+        dibujo.TextoLibre.en(dibujo.TextoLibre.ultimo())->Text = "\"entre comillas\"";
+        dibujo.TextoLibre.crear(dibujo.TextoLibre.contador).Text = std::string(300, 'x');
+        avanzar(dibujo.TextoLibre.contador);
+        banco.guarda("uno.bqr");
+        for (const auto& [antes, despues] : {std::pair{"uno.bqr", "dos.bqr"}, {"dos.bqr", "tres.bqr"}}) {
+            banco.abre(antes);
+            banco.guarda(despues);
+            EXPECT_EQ(banco.bytes(despues), enLineas(trasAbrir(banco.lineas(antes))));
+        }
+        EXPECT_EQ(apoyo::cabezas(banco.lineas("tres.bqr")).size(),
+                  apoyo::cabezas(banco.lineas("dos.bqr")).size() + 1)
+            << "one hidden symbol more";
     }
 }
 

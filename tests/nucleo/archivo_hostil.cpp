@@ -1,15 +1,19 @@
 #include "apoyo/banco.h"
 #include "apoyo/dibujo_guardado.h"
 #include "apoyo/idioma.h"
+#include "apoyo/muestrario.h"
+#include "apoyo/poca_memoria.h"
 #include "furnishing/dibujar_elemento.h"
 #include "furnishing/recuadro.h"
 #include "model/windows1252.h"
+#include "surface/fila.h"
 #include "surface/medidora.h"
 
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <unistd.h>
 
 using namespace bosquel;
 using apoyo::Banco;
@@ -17,7 +21,7 @@ using apoyo::cabezas;
 using apoyo::enLineas;
 using apoyo::Idioma;
 using apoyo::Lineas;
-using apoyo::sinOcultos;
+using apoyo::trasAbrir;
 using apoyo::valor;
 
 // Files that no program would write: they open fast, hurt nothing, and are saved as they were told.
@@ -78,14 +82,7 @@ Lineas todoA(const std::string& numero) {
     return lineas;
 }
 
-/// Without the one value that need not come back as it was: the angle of a symbol.
-Lineas sinAngulos(const Lineas& lineas) {
-    Lineas quedan = sinOcultos(lineas);
-    std::erase_if(quedan, [](const std::string& linea) { return linea.starts_with("Angle="); });
-    return quedan;
-}
-
-/// What a user does first, and a second save that has to be like the third.
+/// What a user does first, and saves of which the third has to follow from the second.
 void usar(Banco& banco) {
     for (int i = 0; i < 3; ++i) {
         dibujar(banco.dibujo());
@@ -96,7 +93,7 @@ void usar(Banco& banco) {
     banco.guarda("dos.bqr");
     banco.abre("dos.bqr");
     banco.guarda("tres.bqr");
-    EXPECT_EQ(sinAngulos(banco.lineas("tres.bqr")), sinAngulos(banco.lineas("dos.bqr")));
+    EXPECT_EQ(banco.bytes("tres.bqr"), enLineas(trasAbrir(banco.lineas("dos.bqr"))));
 }
 
 }  // namespace
@@ -188,6 +185,27 @@ TEST(ArchivoHostil, NumerosDescabelladosEnTodaClaveSeAguantan) {
     }
 }
 
+TEST(ArchivoHostil, FilasSinFinNiSeAtascanAlMedirlasNiAlPintarlas) {
+    constexpr int cuantos = 1000;
+    Lineas lineas = {"[Cabecera]", "NumAsiento=1001", "NumFregadero=1001", "NumEscalera=1000"};
+    const auto poner = [&](const char* clase, int i, const Lineas& claves) {
+        lineas.push_back("[" + std::string(clase) + "(" + std::to_string(i) + ")]");
+        lineas.insert(lineas.end(), claves.begin(), claves.end());
+        lineas.emplace_back("Visible=Verdadero");
+    };
+    for (int i = 1; i <= cuantos; ++i) {
+        poner("Asiento", i, {"NumeroAsientos=1E+38"});
+        poner("Fregadero", i, {"NumeroSenos=1E+308"});
+        poner("Escalera", i,
+              {"Stairs=3", "StepsStair1=2147483647", "StepsStair2=2147483647", "StepsStair3=2147483647"});
+    }
+    Banco banco;
+    abrir(banco, lineas);
+    usar(banco);
+    for (const Clase clase : {Clase::MblAsiento, Clase::MblFregadero, Clase::Escalera})
+        EXPECT_LE(apoyo::trazosDe(banco.dibujo(), clase).size(), 3U * maximoEnFila + 20U);
+}
+
 TEST(ArchivoHostil, CienMegasDeNadaSonUnDibujoVacio) {
     Banco banco;
     banco.ponMuro();
@@ -217,6 +235,26 @@ TEST(ArchivoHostil, UnDibujoEnMedioDeMillonesDeLineasSeEncuentra) {
         ASSERT_TRUE(banco.dibujo().MblMesa.existe(1)) << relleno;
         EXPECT_TRUE(banco.dibujo().MblMesa.en(1)->Visible) << relleno;
     }
+}
+
+TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYTreintaYDosBytesMasPorNombre) {
+    if (apoyo::memoriaSinLimite) GTEST_SKIP() << "the sanitizer takes room of its own";
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, with no room left by other tests
+    Banco banco;
+    std::ostringstream texto;
+    constexpr std::size_t nombres = 540'000;
+    for (std::size_t i = 0; i < nombres; ++i)
+        texto << '[' << i << "]\n";
+    texto << "[Cabecera]\nAnchoAreaDibujo=123\n";
+    const std::string bytes = texto.str();
+    banco.pon("nombres.bqr", bytes);
+    const auto abrirConPocaMemoria = [&] {
+        constexpr std::size_t loDemas = 1'000'000;
+        apoyo::limitarMemoria(bytes.size() + 32 * nombres + loDemas);
+        banco.abre("nombres.bqr");
+        ::_exit(banco.hoja().Width == 123.0F ? 0 : 1);
+    };
+    EXPECT_EXIT(abrirConPocaMemoria(), testing::ExitedWithCode(0), "");
 }
 
 TEST(ArchivoHostil, SeccionesYClavesDistintasPorMillaresNoSePierden) {

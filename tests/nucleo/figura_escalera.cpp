@@ -2,6 +2,7 @@
 #include "furnishing/dibujar_elemento.h"
 #include "furnishing/recuadro.h"
 #include "stairs_symbols/escalera.h"
+#include "surface/fila.h"
 #include "surface/grabadora.h"
 #include "surface/primitivas.h"
 
@@ -184,5 +185,5 @@ TEST(FiguraEscalera, UnNumeroDePeldanosSinSentidoTermina) {
     Escalera una;
     una.StepsStair = {2147483647, -3, 0};
     una.WidthSteps = 1;
-    EXPECT_EQ(trazosDe(conEscalera(una), Clase::Escalera).size(), 4U + 32766U);
+    EXPECT_EQ(trazosDe(conEscalera(una), Clase::Escalera).size(), 4U + maximoEnFila);
 }

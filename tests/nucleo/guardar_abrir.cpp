@@ -3,16 +3,20 @@
 #include "apoyo/disco_dificil.h"
 #include "apoyo/idioma.h"
 #include "apoyo/mensajes.h"
+#include "apoyo/poca_memoria.h"
+#include "drawing/archivo.h"
 
 #include <gtest/gtest.h>
 #include <optional>
+#include <stdexcept>
 
 using namespace bosquel;
 using apoyo::Banco;
 using apoyo::DiscoLleno;
+using apoyo::enLineas;
 using apoyo::Idioma;
-using apoyo::sinOcultos;
 using apoyo::SinPrivilegios;
+using apoyo::trasAbrir;
 
 namespace {
 
@@ -154,6 +158,65 @@ TEST(Guardar, EnUnDiscoLlenoSePierdeElArchivoAnterior) {
     EXPECT_EQ(banco.plataforma.titulo(), "plano.bqr - Bosquel Rapiz");
 }
 
+TEST(Guardar, EnUnSistemaDeArchivosSinSitioSePierdeElAnteriorYNadaMasSeNota) {
+    constexpr int todoBien = 0;
+    constexpr int sinPermiso = 2;
+    Banco banco;
+    const auto guardarSinSitio = [&] {
+        constexpr int sitio = 16 * 1024;
+        if (!apoyo::montarDiscoPequeno(banco.carpeta.ruta(), sitio)) return sinPermiso;
+        banco.guarda("plano.bqr");
+        if (banco.plataforma.titulo() != "plano.bqr - Bosquel Rapiz") return 1;
+        // Somebody takes the room that the old file leaves.
+        banco.plataforma.alCederEventos = [&] { banco.pon("relleno", std::string(sitio, 'x')); };
+        banco.guarda("plano.bqr");
+        const bool comoSiempre = banco.plataforma.titulo() == " - Bosquel Rapiz" &&
+                                 banco.plataforma.mensajes.size() == 2 && !banco.plataforma.relojDeArena() &&
+                                 banco.carpeta.cuantos() == 1;
+        return comoSiempre ? todoBien : 1;
+    };
+    const int fin = apoyo::enOtroProceso(guardarSinSitio);
+    if (fin == sinPermiso) GTEST_SKIP() << "only the superuser mounts file systems";
+    EXPECT_EQ(fin, todoBien);
+}
+
+TEST(Guardar, EnUnDispositivoLlenoAcabaComoSiempreSinTocarlo) {
+    Banco banco;
+    banco.ponMuro();
+    banco.plataforma.mensajes.clear();
+    banco.plataforma.relojesDeArena.clear();
+    GuardarDibujo(banco.sesion(), "/dev/full");
+    EXPECT_EQ(banco.plataforma.titulo(), " - Bosquel Rapiz");
+    EXPECT_EQ(banco.plataforma.mensajes.size(), 1U);
+    EXPECT_EQ(banco.plataforma.relojesDeArena, (std::vector{true, false}));
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+    EXPECT_TRUE(banco.dibujo().Pared.existe(1));
+}
+
+TEST(Guardar, SinMemoriaParaEscribirAcabaComoSiempreSinArchivo) {
+    if (apoyo::memoriaSinLimite) GTEST_SKIP() << "the sanitizer takes room of its own";
+    GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, with no room left by other tests
+    Banco banco;
+    banco.pon("enorme.bqr", "[Cabecera]\r\nNumDucha=32767\r\n");
+    banco.abre("enorme.bqr");
+    const auto guardarSinMemoria = [&] {
+        apoyo::limitarMemoria(1'000'000);
+        banco.guarda("enorme.bqr");
+        const bool comoSiempre = banco.plataforma.titulo() == " - Bosquel Rapiz" &&
+                                 banco.plataforma.mensajes.size() == 1 && !banco.plataforma.relojDeArena() &&
+                                 !banco.sesion().Ocupado && banco.carpeta.cuantos() == 0;
+        ::_exit(comoSiempre ? 0 : 1);
+    };
+    EXPECT_EXIT(guardarSinMemoria(), testing::ExitedWithCode(0), "");
+}
+
+TEST(Guardar, ElRelojDeArenaSeQuitaAunqueAlgoSeRompa) {
+    Banco banco;
+    banco.plataforma.alPonerTitulo = [] { throw std::runtime_error("no title"); };
+    EXPECT_THROW(GuardarDibujo(banco.sesion(), banco.ruta("plano.bqr")), std::runtime_error);
+    EXPECT_EQ(banco.plataforma.relojesDeArena, (std::vector{true, false}));
+}
+
 TEST(Guardar, EnElNombreDeUnaCarpetaODeUnDispositivoNoSeEscribe) {
     Banco banco;
     std::filesystem::create_directory(banco.ruta("carpeta.bqr"));
@@ -174,7 +237,7 @@ TEST(Abrir, LoGuardadoVuelveYSeGuardaIgual) {
         banco.guarda("uno.bqr");
         banco.abre("uno.bqr");
         banco.guarda("dos.bqr");
-        EXPECT_EQ(sinOcultos(banco.lineas("dos.bqr")), sinOcultos(banco.lineas("uno.bqr")));
+        EXPECT_EQ(banco.bytes("dos.bqr"), enLineas(trasAbrir(banco.lineas("uno.bqr"))));
         Banco otro;
         otro.pon("uno.bqr", banco.bytes("uno.bqr"));
         otro.abre("uno.bqr");
@@ -240,7 +303,14 @@ TEST(Abrir, SinCabeceraDaUnDibujoVacioConSuTitulo) {
     banco.ponMuro();
     banco.pon("otro.ini", "hola\r\n[Otra]\r\nNumPared=9\r\n");
     banco.abre("otro.ini");
-    EXPECT_EQ(banco.dibujo().Pared.ultimo(), 0);
+    EXPECT_EQ(banco.hoja().Width, 10000.0F);
+    EXPECT_EQ(banco.hoja().Height, 10000.0F);
+    for (const DatosClase& fila : todasLasClases())
+        conColeccion(banco.dibujo(), fila.clase, [&](const auto& coleccion) {
+            const bool suContador = fila.clase == Clase::Escalera || fila.clase == Clase::Electrico;
+            EXPECT_EQ(coleccion.contador, fila.clase == Clase::Electrico ? 2 : 1) << fila.nombre;
+            EXPECT_EQ(coleccion.ultimo(), suContador ? 1 : 0) << fila.nombre;
+        });
     EXPECT_EQ(banco.plataforma.titulo(), "otro.ini - Bosquel Rapiz");
 }
 

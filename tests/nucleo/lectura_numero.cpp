@@ -116,7 +116,8 @@ TEST(EnteroTecleado, TodosLosSeparadoresAgrupan) {
         EXPECT_EQ(enteroTecleado("29,700"), 29700.0);
         EXPECT_EQ(enteroTecleado("1.234,5"), 12345.0);
         EXPECT_EQ(enteroTecleado(" 7 "), 7.0);
-        EXPECT_EQ(enteroTecleado("."), std::nullopt);
-        EXPECT_EQ(enteroTecleado(""), std::nullopt);
+        for (const std::string& malo : {std::string("."), std::string(), std::string("1e,5"),
+                                        std::string(",-5"), std::string("\0009", 2)})
+            EXPECT_EQ(enteroTecleado(malo), std::nullopt) << malo;
     }
 }

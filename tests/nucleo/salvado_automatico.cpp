@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 #include <optional>
+#include <stdexcept>
 
 using namespace bosquel;
 using apoyo::Banco;
@@ -223,6 +224,47 @@ TEST(SalvadoAutomatico, EnUnaCarpetaDeSoloLecturaNoPasaNada) {
     EXPECT_FALSE(banco.plataforma.relojDeArena());
     banco.minutos(5);
     EXPECT_TRUE(salvado(banco));
+}
+
+TEST(SalvadoAutomatico, SinLaCarpetaDelProgramaNoPasaNada) {
+    Banco banco;
+    std::filesystem::remove_all(banco.carpeta.ruta());
+    banco.minutos(5);
+    EXPECT_FALSE(std::filesystem::exists(banco.carpeta.ruta()));
+    EXPECT_FALSE(banco.sesion().GuardandoAuto);
+    EXPECT_EQ(banco.plataforma.relojesDeArena, (std::vector{true, false}));
+    EXPECT_TRUE(banco.plataforma.mensajes.empty());
+    std::filesystem::create_directory(banco.carpeta.ruta());
+    banco.minutos(5);
+    EXPECT_TRUE(salvado(banco));
+}
+
+TEST(SalvadoAutomatico, EnUnDiscoLlenoSePierdeElAnteriorYElSiguienteSale) {
+    Banco banco;
+    banco.minutos(5);
+    ASSERT_TRUE(salvado(banco));
+    {
+        const apoyo::DiscoLleno lleno(100);
+        banco.minutos(5);
+    }
+    EXPECT_EQ(banco.carpeta.cuantos(), 0);
+    EXPECT_FALSE(banco.sesion().GuardandoAuto);
+    EXPECT_FALSE(banco.plataforma.relojDeArena());
+    EXPECT_TRUE(banco.plataforma.mensajes.empty());
+    banco.minutos(5);
+    EXPECT_TRUE(salvado(banco));
+}
+
+TEST(SalvadoAutomatico, LaBanderaBajaAunqueAlgoSeRompa) {
+    Banco banco;
+    banco.minutos(5);
+    banco.plataforma.alCederEventos = [] { throw std::runtime_error("no turn"); };
+    EXPECT_THROW(banco.minutos(5), std::runtime_error);
+    EXPECT_FALSE(banco.sesion().GuardandoAuto);
+    EXPECT_FALSE(banco.plataforma.relojDeArena());
+    banco.plataforma.alCederEventos = nullptr;
+    banco.boton("Zoom");
+    EXPECT_EQ(banco.plataforma.turnos, 0) << "no command waits for a save that is over";
 }
 
 TEST(SalvadoAutomatico, SoloElPrimerTurnoDejaEsperandoAlUsuario) {

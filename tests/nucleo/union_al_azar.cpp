@@ -170,7 +170,7 @@ class Usuario {
         banco_.guarda("a.bqr");
         banco_.abre("a.bqr");
         banco_.guarda("b.bqr");
-        EXPECT_EQ(sinOcultos(banco_.lineas("a.bqr")), sinOcultos(banco_.lineas("b.bqr")))
+        EXPECT_EQ(banco_.bytes("b.bqr"), enLineas(trasAbrir(banco_.lineas("a.bqr"))))
             << "opening and saving gives the same drawing";
         return "save and open";
     }
