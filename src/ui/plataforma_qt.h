@@ -10,7 +10,7 @@ class AyudaForma;
 class VentanaBosquel;
 
 /// The seam to the outside, with Qt behind it.
-class PlataformaQt final : public Plataforma {
+class PlataformaQt : public Plataforma {
   public:
     PlataformaQt();
     PlataformaQt(const PlataformaQt&) = delete;

@@ -8,11 +8,7 @@
 namespace bosquel::apoyo {
 
 /// Under the address sanitizer, which takes room of its own, memory cannot be limited.
-#ifdef __SANITIZE_ADDRESS__
-inline constexpr bool memoriaSinLimite = true;
-#else
-inline constexpr bool memoriaSinLimite = false;
-#endif
+inline constexpr bool memoriaSinLimite = BOSQUEL_SANEADO;
 
 /// From now on the process may take so many bytes more than it has, and no more. There is no way back: it is
 /// for the child of a death test.

@@ -1,0 +1,166 @@
+// The sheet: what an event of a drag costs until it is painted, a full repaint, and the output's picture.
+
+#include "dibujos.h"
+#include "furnishing/dibujar_elemento.h"
+#include "output/image_crop.h"
+#include "puesto.h"
+#include "trazos.h"
+#include "ui/lienzo_qt.h"
+#include "ui/pintura_hoja.h"
+#include "ui/unidades.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <benchmark/benchmark.h>
+
+namespace bosquel::bench {
+
+namespace {
+
+constexpr QSize vista{1280, 800};
+constexpr int ladoSalida = 1512;
+constexpr float cerca = 4000;  ///< sheet units: where the dragged thing stands
+
+/// Takes events and does nothing.
+class Nadie final : public QWidget {
+  protected:
+    void mouseMoveEvent(QMouseEvent* evento) override { evento->accept(); }
+};
+
+void sueloEvento(benchmark::State& estado) {
+    Nadie nadie;
+    nadie.resize(vista);
+    nadie.show();
+    Puesto::pintar();
+    double x = 0;
+    for (auto _ : estado) {
+        x = x > 100 ? 0 : x + 1;
+        QMouseEvent evento(QEvent::MouseMove, QPointF(x, 10), QPointF(x, 10), Qt::NoButton, Qt::LeftButton,
+                           Qt::NoModifier);
+        QApplication::sendEvent(&nadie, &evento);
+        Puesto::pintar();
+    }
+}
+
+/// Takes what stands at a place and moves it to and fro by a few pixels.
+void arrastrar(benchmark::State& estado, Puesto& puesto, float x, float y) {
+    puesto.puntero(QEvent::MouseMove, x, y);
+    puesto.puntero(QEvent::MouseButtonPress, x, y);
+    Puesto::pintar();
+    int n = 0;
+    for (auto _ : estado) {
+        ++n;
+        const int pixeles = n % 40 < 20 ? n % 20 : 20 - n % 20;
+        const auto paso = static_cast<float>(unidadesPorPixel * pixeles);
+        puesto.puntero(QEvent::MouseMove, x + paso, y + paso);
+        Puesto::pintar();
+    }
+    puesto.puntero(QEvent::MouseButtonRelease, x, y);
+}
+
+void arrastreMueble(benchmark::State& estado) {
+    Puesto puesto(static_cast<int>(estado.range(0)));
+    MblCama90& cama = *puesto.dibujo().MblCama90.crearSiguiente();
+    cama.Left = cama.Top = cerca;
+    cama.Visible = true;
+    alFrente(puesto.dibujo(), cama);
+    puesto.mostrarTodo();
+    arrastrar(estado, puesto, cerca + 150, cerca + 150);
+}
+
+/// By the grip in the middle of the wall.
+void arrastrarPared(benchmark::State& estado, Puesto& puesto, int indice) {
+    Pared& pared = *puesto.dibujo().Pared.en(indice);
+    for (Pinza* pinza : pared.pinzas())
+        alFrente(puesto.dibujo(), *pinza);
+    puesto.mostrarTodo();
+    const Recuadro pinza = pared.ParedPickCentro.recuadro();
+    arrastrar(estado, puesto, static_cast<float>(pinza.Left + pinza.Width / 2),
+              static_cast<float>(pinza.Top + pinza.Height / 2));
+}
+
+void arrastrePared(benchmark::State& estado) {
+    Puesto puesto(static_cast<int>(estado.range(0)));
+    arrastrarPared(estado, puesto, ponerMuroConVentanas(puesto.dibujo(), cerca, cerca, 4));
+}
+
+void arrastreGrupo(benchmark::State& estado) {
+    Puesto puesto(static_cast<int>(estado.range(0)));
+    arrastrarPared(estado, puesto, ponerGrupo(puesto.dibujo(), cerca, cerca, 40));
+}
+
+/// Pointer over the sheet, nothing pressed.
+void paso(benchmark::State& estado) {
+    Puesto puesto(static_cast<int>(estado.range(0)));
+    int n = 0;
+    for (auto _ : estado) {
+        const QPointF lugar(n % 600, 300);
+        n += 7;
+        QMouseEvent evento(QEvent::MouseMove, lugar, lugar, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(&puesto.hoja(), &evento);
+        Puesto::pintar();
+    }
+}
+
+/// The strokes of the whole drawing, kept in pixels.
+struct TrazosDelDibujo : Trazos {
+    TrazosDelDibujo(const Dibujo& dibujo, double escala) : Trazos(escala) {
+        DibujarTodo(salidaDe(dibujo, *this, 1), dibujo);
+    }
+};
+
+void repintado(benchmark::State& estado) {
+    Puesto puesto(static_cast<int>(estado.range(0)));
+    QPixmap lienzo(vista);
+    for (auto _ : estado) {
+        QPainter pintor(&lienzo);
+        pintarQuieto(pintor, puesto.sesion(), QRect({}, vista), 1.0 / unidadesPorPixel);
+    }
+}
+
+void sueloRepintado(benchmark::State& estado) {
+    Puesto puesto(static_cast<int>(estado.range(0)));
+    const TrazosDelDibujo trazos(puesto.dibujo(), 1.0 / unidadesPorPixel);
+    QPixmap lienzo(vista);
+    for (auto _ : estado) {
+        QPainter pintor(&lienzo);
+        pintor.fillRect(QRect({}, vista), Qt::white);
+        trazos.pintar(pintor);
+    }
+    estado.counters["strokes"] = static_cast<double>(trazos.cuantos());
+}
+
+void salida(benchmark::State& estado) {
+    Puesto puesto(static_cast<int>(estado.range(0)));
+    LienzoQt lienzo;
+    for (auto _ : estado)
+        ImageCrop(puesto.plataforma(), puesto.dibujo(), {}).cargar(lienzo);
+    if (lienzo.HojaSalida().size() != QSize(ladoSalida, ladoSalida)) estado.SkipWithError("another size");
+}
+
+void sueloSalida(benchmark::State& estado) {
+    Puesto puesto(static_cast<int>(estado.range(0)));
+    const TrazosDelDibujo trazos(puesto.dibujo(),
+                                 static_cast<double>(ladoSalida) / static_cast<double>(ladoHoja));
+    for (auto _ : estado) {
+        QImage lienzo(ladoSalida, ladoSalida, QImage::Format_RGB32);
+        lienzo.fill(Qt::white);
+        QPainter pintor(&lienzo);
+        trazos.pintar(pintor);
+    }
+}
+
+BENCHMARK(sueloEvento);
+BENCHMARK(arrastreMueble)->Arg(100)->Arg(2000)->Arg(20000);
+BENCHMARK(arrastrePared)->Arg(100)->Arg(2000)->Arg(20000);
+BENCHMARK(arrastreGrupo)->Arg(100)->Arg(2000)->Arg(20000);
+BENCHMARK(paso)->Arg(100)->Arg(2000)->Arg(20000);
+BENCHMARK(sueloRepintado)->Arg(100)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+BENCHMARK(repintado)->Arg(100)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+BENCHMARK(sueloSalida)->Arg(100)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+BENCHMARK(salida)->Arg(100)->Arg(2000)->Arg(20000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+}  // namespace bosquel::bench
