@@ -8,6 +8,15 @@
 
 namespace bosquel::bench {
 
+namespace {
+
+QRect entre(QPoint una, QPoint otra) {
+    return {QPoint(std::min(una.x(), otra.x()), std::min(una.y(), otra.y())),
+            QPoint(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()))};
+}
+
+}  // namespace
+
 int Trazos::pixel(double unidades) const {
     return static_cast<int>(std::lround(unidades * escala_));
 }
@@ -25,13 +34,13 @@ void Trazos::trazarLinea(double x1, double y1, double x2, double y2, Color color
     const QPoint hasta(pixel(x2), pixel(y2));
     Tanda& suya = tanda(color);
     if (desde.x() == hasta.x() || desde.y() == hasta.y())
-        suya.rectas.push_back(QRect(desde, hasta).normalized());
+        suya.rectas.push_back(entre(desde, hasta));
     else
         suya.oblicuas.emplace_back(desde, hasta);
 }
 
 void Trazos::trazarCaja(double x1, double y1, double x2, double y2, Color color) {
-    const QRect caja = QRect(QPoint(pixel(x1), pixel(y1)), QPoint(pixel(x2), pixel(y2))).normalized();
+    const QRect caja = entre({pixel(x1), pixel(y1)}, {pixel(x2), pixel(y2)});
     if (relleno_ == Relleno::solido) {
         ++cuantos_;
         pasos_.push_back(Mancha{caja, colorRelleno_, color});

@@ -56,9 +56,9 @@ void pintarPinza(QPainter& pintor, const Pinza& pinza, double escala) {
     const QPoint esquina(static_cast<int>(std::lround(pinza.Left * escala)),
                          static_cast<int>(std::lround(pinza.Top * escala)));
     const int lado = std::max(3, static_cast<int>(std::lround(pinza.Lado * escala)));
-    pintor.fillRect(QRect(esquina, QSize(lado, lado)), colorQt(pinza.BackColor));
-    pintor.setPen(bordePinza);
-    pintor.drawRect(QRect(esquina, QSize(lado - 1, lado - 1)));
+    const QRect entera(esquina, QSize(lado, lado));
+    pintor.fillRect(entera, bordePinza);
+    pintor.fillRect(entera.adjusted(1, 1, -1, -1), colorQt(pinza.BackColor));
 }
 
 bool enMovimiento(const Dibujo&, const Pared& pared) {

@@ -1,8 +1,9 @@
 #include "ui/pixeles_curva.h"
 
+#include <QtMath>
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <cstdint>
 #include <numbers>
 
 namespace bosquel {
@@ -11,8 +12,22 @@ namespace {
 
 constexpr double vuelta = 2 * std::numbers::pi;
 
-int entero(double pixeles) {
-    return static_cast<int>(std::lround(pixeles));
+double enVuelta(double giro) {
+    return giro - vuelta * std::floor(giro / vuelta);
+}
+
+/// A direction on the circle that a curve is flattened from.
+struct Rumbo {
+    double coseno = 1, seno = 0;
+};
+
+Rumbo rumboDe(double angulo) {
+    return {std::cos(angulo), std::sin(angulo)};
+}
+
+/// Not below 0 if `b` lies within the half turn that follows on `a`.
+double giro(Rumbo a, Rumbo b) {
+    return a.coseno * b.seno - a.seno * b.coseno;
 }
 
 /// The other side of a right triangle of hypotenuse 1.
@@ -20,13 +35,23 @@ double cateto(double lado) {
     return std::sqrt(std::max(0.0, 1 - lado * lado));
 }
 
-/// Collects pixels of a curve by its angles, leaving out those that its arc does not reach.
+/// Collects pixels of a curve by its directions, leaving out those that its arc does not reach.
 class Recorrido {
   public:
     explicit Recorrido(const Curva& curva)
-        : curva_(curva), ejeX_(std::max(curva.ejeX(), punto)), ejeY_(std::max(curva.ejeY(), punto)) {}
+        : curva_(curva),
+          ejeX_(std::max(curva.ejeX(), punto)),
+          ejeY_(std::max(curva.ejeY(), punto)),
+          diagonal_(std::hypot(ejeX_, ejeY_)) {
+        const double abertura = curva.arco ? enVuelta(curva.arco->fin - curva.arco->inicio) : 0;
+        if (abertura == 0) return;
+        forma_ = abertura <= vuelta / 2 ? Forma::hastaMedia : Forma::masDeMedia;
+        inicio_ = rumboDe(curva.arco->inicio);
+        fin_ = rumboDe(curva.arco->fin);
+    }
 
     std::vector<QPoint> pixeles() {
+        pixeles_.reserve(static_cast<std::size_t>(4 * diagonal_) + 16);
         porColumnas();
         porFilas();
         hitos();
@@ -34,55 +59,63 @@ class Recorrido {
     }
 
   private:
+    /// What of its circle the arc takes.
+    enum class Forma : std::uint8_t { entera, hastaMedia, masDeMedia };
+
     static constexpr double punto = 1e-9;  ///< a half-axis of this length is one, too
 
     /// Where the curve runs rather across than down, it has one pixel in each column.
     void porColumnas() {
-        for (int x = entero(std::ceil(curva_.x - ejeX_)); x <= curva_.x + ejeX_; ++x) {
+        const double alcance = ejeX_ * ejeX_ / diagonal_;
+        const int ultima = qFloor(curva_.x + alcance);
+        for (int x = qCeil(curva_.x - alcance); x <= ultima; ++x) {
             const double coseno = (x - curva_.x) / ejeX_;
             const double seno = cateto(coseno);
-            if (ejeX_ * seno < ejeY_ * std::abs(coseno)) continue;
-            for (const double lado : {seno, -seno})
-                if (alcanza(std::atan2(lado, coseno))) pixeles_.emplace_back(x, fila(lado));
+            for (const Rumbo rumbo : {Rumbo{coseno, seno}, Rumbo{coseno, -seno}})
+                if (alcanza(rumbo)) pixeles_.emplace_back(x, fila(rumbo));
         }
     }
 
     /// And in each row elsewhere.
     void porFilas() {
-        for (int y = entero(std::ceil(curva_.y - ejeY_)); y <= curva_.y + ejeY_; ++y) {
+        const double alcance = ejeY_ * ejeY_ / diagonal_;
+        const int ultima = qFloor(curva_.y + alcance);
+        for (int y = qCeil(curva_.y - alcance); y <= ultima; ++y) {
             const double seno = (curva_.y - y) / ejeY_;
             const double coseno = cateto(seno);
-            if (ejeY_ * coseno < ejeX_ * std::abs(seno)) continue;
-            for (const double lado : {coseno, -coseno})
-                if (alcanza(std::atan2(seno, lado))) pixeles_.emplace_back(columna(lado), y);
+            for (const Rumbo rumbo : {Rumbo{coseno, seno}, Rumbo{-coseno, seno}})
+                if (alcanza(rumbo)) pixeles_.emplace_back(columna(rumbo), y);
         }
     }
 
     /// The joints of columns and rows, the tips, and the ends: what lies there may be between two of them.
     void hitos() {
-        const double diagonal = std::atan2(ejeY_, ejeX_);
-        const double recto = vuelta / 4;
-        for (const double angulo :
-             {diagonal, 2 * recto - diagonal, 2 * recto + diagonal, -diagonal, 0.0, recto, 2 * recto, -recto})
-            if (alcanza(angulo)) poner(angulo);
-        if (!curva_.arco) return;
-        poner(curva_.arco->inicio);
-        poner(curva_.arco->fin);
+        const double c = ejeX_ / diagonal_;
+        const double s = ejeY_ / diagonal_;
+        for (const Rumbo rumbo : {Rumbo{c, s}, Rumbo{-c, s}, Rumbo{-c, -s}, Rumbo{c, -s}, Rumbo{1, 0},
+                                  Rumbo{0, 1}, Rumbo{-1, 0}, Rumbo{0, -1}})
+            if (alcanza(rumbo)) poner(rumbo);
+        if (forma_ == Forma::entera) return;
+        poner(inicio_);
+        poner(fin_);
     }
 
-    bool alcanza(double angulo) const {
-        if (!curva_.arco || curva_.arco->inicio == curva_.arco->fin) return true;
-        const auto enVuelta = [](double giro) { return giro - vuelta * std::floor(giro / vuelta); };
-        const double abertura = enVuelta(curva_.arco->fin - curva_.arco->inicio);
-        return abertura == 0 || enVuelta(angulo - curva_.arco->inicio) <= abertura;
+    /// Whether the arc, which turns from `inicio_` to `fin_`, comes by.
+    bool alcanza(Rumbo rumbo) const {
+        if (forma_ == Forma::entera) return true;
+        const bool trasInicio = giro(inicio_, rumbo) >= 0;
+        const bool anteFin = giro(rumbo, fin_) >= 0;
+        return forma_ == Forma::hastaMedia ? trasInicio && anteFin : trasInicio || anteFin;
     }
 
-    void poner(double angulo) { pixeles_.emplace_back(columna(std::cos(angulo)), fila(std::sin(angulo))); }
-    int columna(double coseno) const { return entero(curva_.x + ejeX_ * coseno); }
-    int fila(double seno) const { return entero(curva_.y - ejeY_ * seno); }
+    void poner(Rumbo rumbo) { pixeles_.emplace_back(columna(rumbo), fila(rumbo)); }
+    int columna(Rumbo rumbo) const { return qRound(curva_.x + ejeX_ * rumbo.coseno); }
+    int fila(Rumbo rumbo) const { return qRound(curva_.y - ejeY_ * rumbo.seno); }
 
     const Curva& curva_;
-    double ejeX_, ejeY_;
+    double ejeX_, ejeY_, diagonal_;
+    Forma forma_ = Forma::entera;
+    Rumbo inicio_, fin_;
     std::vector<QPoint> pixeles_;
 };
 
@@ -95,9 +128,9 @@ std::vector<QPoint> pixelesDe(const Curva& curva) {
 std::vector<QLine> filasDe(const Curva& curva) {
     std::vector<QLine> filas;
     const double ejeY = curva.ejeY();
-    for (int y = entero(std::ceil(curva.y - ejeY)); y < curva.y + ejeY; ++y) {
+    for (int y = qCeil(curva.y - ejeY); y < curva.y + ejeY; ++y) {
         const double media = curva.ejeX() * cateto((y - curva.y) / ejeY);
-        const QLine fila(entero(std::ceil(curva.x - media)), y, entero(std::floor(curva.x + media)), y);
+        const QLine fila(qCeil(curva.x - media), y, qFloor(curva.x + media), y);
         if (fila.x1() <= fila.x2()) filas.push_back(fila);
     }
     return filas;

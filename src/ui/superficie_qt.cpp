@@ -35,6 +35,12 @@ QPen lapiz(Color color) {
     return {colorQt(color), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
+/// The pixels between two corners, both included.
+QRect entre(QPoint una, QPoint otra) {
+    return {QPoint(std::min(una.x(), otra.x()), std::min(una.y(), otra.y())),
+            QPoint(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()))};
+}
+
 bool cerca(QPointF punto) {
     return std::abs(punto.x()) <= lejos && std::abs(punto.y()) <= lejos;
 }
@@ -83,51 +89,51 @@ std::optional<QLine> recortar(QPointF desde, QPointF hasta) {
     return QLine(enteros(desde + inicio * paso), enteros(desde + fin * paso));
 }
 
+/// A painter takes long over a change of pen, and most strokes have the colour of the one before.
 void SuperficieQt::ponerLapiz(Color color) {
-    pintor_.setPen(lapiz(tinta_.value_or(color)));
-}
-
-/// The painter's brush is the fill state, so that it is bare again when the fill state is.
-void SuperficieQt::ponerBrocha() {
-    if (relleno_ == Relleno::solido)
-        pintor_.setBrush(colorQt(colorRelleno_));
-    else
-        pintor_.setBrush(Qt::NoBrush);
-}
-
-void SuperficieQt::FillStyle(Relleno relleno) {
-    relleno_ = relleno;
-    ponerBrocha();
-}
-
-void SuperficieQt::FillColor(Color color) {
-    colorRelleno_ = color;
-    ponerBrocha();
+    if (color == lapiz_) return;
+    lapiz_ = color;
+    pintor_.setPen(lapiz(color));
 }
 
 void SuperficieQt::trazarLinea(double x1, double y1, double x2, double y2, Color color) {
     const auto linea = recortar(enPixeles(x1, y1), enPixeles(x2, y2));
     if (!linea) return;
-    ponerLapiz(color);
+    // The same pixels as a filled rectangle, much sooner.
+    const bool recta = linea->dx() == 0 || linea->dy() == 0;
+    if (recta && !suave()) return pintor_.fillRect(entre(linea->p1(), linea->p2()), colorQt(tinta(color)));
+    ponerLapiz(tinta(color));
     pintor_.drawLine(*linea);
 }
 
 void SuperficieQt::trazarCaja(double x1, double y1, double x2, double y2, Color color) {
-    const QPoint una = enteros(acercado(enPixeles(x1, y1)));
-    const QPoint otra = enteros(acercado(enPixeles(x2, y2)));
-    const QPoint esquina(std::min(una.x(), otra.x()), std::min(una.y(), otra.y()));
-    const QPoint opuesta(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()));
-    ponerLapiz(color);
-    // The toolkit leaves out a rectangle of nothing but its corner.
-    if (esquina == opuesta) return pintor_.drawPoint(esquina);
-    pintor_.drawRect(QRect(esquina, QSize(opuesta.x() - esquina.x(), opuesta.y() - esquina.y())));
+    const QRect caja = entre(enteros(acercado(enPixeles(x1, y1))), enteros(acercado(enPixeles(x2, y2))));
+    if (!suave()) return trazarCajaEnPixeles(caja, color);
+    ponerLapiz(tinta(color));
+    pintor_.setBrush(brocha());
+    pintor_.drawRect(caja.adjusted(0, 0, -1, -1));
+    pintor_.setBrush(Qt::NoBrush);
+}
+
+void SuperficieQt::trazarCajaEnPixeles(const QRect& caja, Color color) {
+    const QColor borde = colorQt(tinta(color));
+    if (relleno_ == Relleno::solido) {
+        const QRect dentro = caja.adjusted(1, 1, -1, -1);
+        pintor_.fillRect(caja, borde);
+        if (dentro.isValid()) pintor_.fillRect(dentro, colorQt(colorRelleno_));
+        return;
+    }
+    for (const QRect& lado :
+         {entre(caja.topLeft(), caja.topRight()), entre(caja.bottomLeft(), caja.bottomRight()),
+          entre(caja.topLeft(), caja.bottomLeft()), entre(caja.topRight(), caja.bottomRight())})
+        pintor_.fillRect(lado, borde);
 }
 
 void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
     const QPointF centro = enPixeles(curva.x, curva.y);
     const QPointF ejes(curva.ejeX() * escala_, curva.ejeY() * escala_);
     if (!cerca(centro) || !cerca(ejes)) return;
-    if (pintor_.testRenderHint(QPainter::Antialiasing))
+    if (suave())
         trazarCurvaSuave(curva, QRectF(centro - ejes, centro + ejes), color);
     else
         trazarCurvaEnPixeles({centro.x(), centro.y(), curva.radio * escala_, curva.arco, curva.aspecto},
@@ -137,19 +143,21 @@ void SuperficieQt::trazarCurva(const Curva& curva, Color color) {
 /// The toolkit's own curves without smoothing stray by up to two pixels from where they should be.
 void SuperficieQt::trazarCurvaEnPixeles(const Curva& curva, Color color) {
     if (!curva.arco && relleno_ == Relleno::solido) {
-        pintor_.setPen(lapiz(colorRelleno_));
+        ponerLapiz(colorRelleno_);
         const std::vector<QLine> filas = filasDe(curva);
         pintor_.drawLines(filas.data(), static_cast<int>(filas.size()));
     }
-    ponerLapiz(color);
+    ponerLapiz(tinta(color));
     const std::vector<QPoint> pixeles = pixelesDe(curva);
     pintor_.drawPoints(pixeles.data(), static_cast<int>(pixeles.size()));
 }
 
 void SuperficieQt::trazarCurvaSuave(const Curva& curva, const QRectF& marco, Color color) {
-    ponerLapiz(color);
+    ponerLapiz(tinta(color));
     if (!curva.arco) {
+        pintor_.setBrush(brocha());
         pintor_.drawEllipse(marco);
+        pintor_.setBrush(Qt::NoBrush);
         return;
     }
     double abertura = qRadiansToDegrees(curva.arco->fin - curva.arco->inicio);
@@ -166,7 +174,7 @@ void SuperficieQt::Print(std::string_view texto) {
     const QPointF esquina = enPixeles(texto_.x(), texto_.y());
     if (!cerca(esquina)) return;
     pintor_.setFont(letra);
-    pintor_.setPen(colorQt(colorTexto_));
+    ponerLapiz(colorTexto_);
     const QString linea = QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size()));
     pintor_.drawText(QPointF(enteros(esquina + QPointF(0, QFontMetricsF(letra).ascent()))), linea);
 }

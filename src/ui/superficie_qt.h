@@ -9,6 +9,10 @@
 
 namespace bosquel {
 
+/// The colour as the toolkit has it, and back: a plain one.
+QColor colorQt(Color color);
+Color colorDe(const QColor& color);
+
 /// A surface on a painter whose units are device pixels: strokes are one of them wide, whatever the density.
 /// Unless the painter smooths, a position is the pixel whose middle comes nearest, of curves as of lines. A
 /// curve too great or too far away for a painter is left out.
@@ -23,8 +27,8 @@ class SuperficieQt final : public SuperficieSalida {
     /// All strokes come out in this colour, whatever their own; nothing for their own again.
     void ponerTinta(std::optional<Color> tinta) { tinta_ = tinta; }
 
-    void FillStyle(Relleno relleno) override;
-    void FillColor(Color color) override;
+    void FillStyle(Relleno relleno) override { relleno_ = relleno; }
+    void FillColor(Color color) override { colorRelleno_ = color; }
     void CurrentX(double x) override { texto_.setX(x); }
     void CurrentY(double y) override { texto_.setY(y); }
     void ForeColor(Color color) override { colorTexto_ = color; }
@@ -38,8 +42,11 @@ class SuperficieQt final : public SuperficieSalida {
 
   private:
     QPointF enPixeles(double x, double y) const { return origen_ + QPointF(x, y) * escala_; }
+    Color tinta(Color color) const { return tinta_.value_or(color); }
+    bool suave() const { return pintor_.testRenderHint(QPainter::Antialiasing); }
+    QBrush brocha() const { return relleno_ == Relleno::solido ? QBrush(colorQt(colorRelleno_)) : QBrush(); }
     void ponerLapiz(Color color);
-    void ponerBrocha();
+    void trazarCajaEnPixeles(const QRect& caja, Color color);
     void trazarCurvaEnPixeles(const Curva& curva, Color color);
     void trazarCurvaSuave(const Curva& curva, const QRectF& marco, Color color);
 
@@ -48,7 +55,7 @@ class SuperficieQt final : public SuperficieSalida {
     QPointF origen_;
     Relleno relleno_ = Relleno::transparente;
     Color colorRelleno_ = negro, colorTexto_ = negro;
-    std::optional<Color> tinta_;
+    std::optional<Color> tinta_, lapiz_;
     QPointF texto_;  ///< where the next one stands, in surface units
     double puntos_ = 8;
 };
@@ -59,10 +66,6 @@ QFont fuenteTexto(double puntos, double escala);
 /// The same type on a picture that is not smoothed: nothing of its letters is left to the settings of the
 /// screen.
 QFont sinSuavizar(QFont letra);
-
-/// The colour as the toolkit has it, and back: a plain one.
-QColor colorQt(Color color);
-Color colorDe(const QColor& color);
 
 /// The part of a line that lies near the paper, in whole pixels; nothing if none does. A painter takes ints,
 /// and a drawing may reach far beyond them.
