@@ -32,30 +32,34 @@ void sueloEvento(benchmark::State& estado) {
     Nadie nadie;
     nadie.resize(vista);
     nadie.show();
-    Puesto::pintar();
+    pintar(nadie);
     double x = 0;
     for (auto _ : estado) {
         x = x > 100 ? 0 : x + 1;
         QMouseEvent evento(QEvent::MouseMove, QPointF(x, 10), QPointF(x, 10), Qt::NoButton, Qt::LeftButton,
                            Qt::NoModifier);
         QApplication::sendEvent(&nadie, &evento);
-        Puesto::pintar();
+        pintar(nadie);
     }
+}
+
+bool seMueve(Puesto& puesto) {
+    return puesto.dibujo().ObjetoEnMovimiento || !puesto.sesion().paredesEnMovimiento.empty();
 }
 
 /// Takes what stands at a place and moves it to and fro by a few pixels.
 void arrastrar(benchmark::State& estado, Puesto& puesto, float x, float y) {
-    puesto.puntero(QEvent::MouseMove, x, y);
     puesto.puntero(QEvent::MouseButtonPress, x, y);
-    Puesto::pintar();
+    puesto.pintar();
     int n = 0;
     for (auto _ : estado) {
         ++n;
         const int pixeles = n % 40 < 20 ? n % 20 : 20 - n % 20;
         const auto paso = static_cast<float>(unidadesPorPixel * pixeles);
         puesto.puntero(QEvent::MouseMove, x + paso, y + paso);
-        Puesto::pintar();
+        puesto.pintar();
     }
+    if (!seMueve(puesto)) estado.SkipWithError("nothing is being dragged");
     puesto.puntero(QEvent::MouseButtonRelease, x, y);
 }
 
@@ -99,7 +103,7 @@ void paso(benchmark::State& estado) {
         n += 7;
         QMouseEvent evento(QEvent::MouseMove, lugar, lugar, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(&puesto.hoja(), &evento);
-        Puesto::pintar();
+        puesto.pintar();
     }
 }
 

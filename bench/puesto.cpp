@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QWindow>
 
 namespace bosquel::bench {
 
@@ -37,8 +38,11 @@ void Puesto::mostrarTodo() {
     pintar();
 }
 
-void Puesto::pintar() {
+void pintar(QWidget& ventana) {
+    if (!ventana.windowHandle()->isExposed()) QCoreApplication::processEvents();
     QCoreApplication::sendPostedEvents();
+    QEvent peticion(QEvent::UpdateRequest);
+    QApplication::sendEvent(&ventana, &peticion);
 }
 
 void Puesto::puntero(QEvent::Type tipo, float x, float y) {

@@ -12,6 +12,9 @@
 
 namespace bosquel::bench {
 
+/// Lets a window paint all that is due, which it would do a little later by itself.
+void pintar(QWidget& ventana);
+
 /// The outside, with a user who says yes and always means the same file.
 class PlataformaDeMedida final : public PlataformaQt {
   public:
@@ -40,8 +43,7 @@ class Puesto {
 
     /// Everything that has been changed behind the window's back is shown.
     void mostrarTodo();
-    /// Gives the window its turn, until it has painted all.
-    static void pintar();
+    void pintar() { bench::pintar(ventana_); }
     /// The pointer, at sheet units: with the button down, pressed or released there.
     void puntero(QEvent::Type tipo, float x, float y);
 
