@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <string_view>
 
 namespace bosquel {
@@ -53,10 +54,21 @@ Cifras cientifico(double valor, Precision... precision) {
     return leerCientifico(valor, {sitio.data(), static_cast<std::size_t>(fin - sitio.data())});
 }
 
+/// At least as many digits as a value has, not counting zeros at the end: those before the decimal sign, and
+/// one for each binary place behind it.
+int cifrasDe(double valor) {
+    if (valor == 0 || !std::isfinite(valor)) return 1;
+    constexpr double cifrasPorBit = 0.30103;
+    const int exponente = std::ilogb(valor);
+    const int enteras = exponente < 0 ? 0 : static_cast<int>((exponente + 1) * cifrasPorBit) + 1;
+    const int binarias = std::max(0, std::numeric_limits<double>::digits - 1 - exponente);
+    return std::min(enteras + binarias, cifrasDelMasLargo);
+}
+
 }  // namespace
 
 Cifras cifrasExactas(double valor) {
-    return cientifico(valor, cifrasDelMasLargo - 1);
+    return cientifico(valor, cifrasDe(valor) - 1);
 }
 
 Cifras primerasCifras(double valor, int cuantas) {

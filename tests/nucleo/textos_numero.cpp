@@ -3,7 +3,9 @@
 #include "apoyo/idioma.h"
 #include "model/cifras.h"
 
+#include <array>
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -176,6 +178,29 @@ TEST(FormatoMetros, ValeParaCualquierMagnitud) {
         std::string texto = formatoMetros(valor);
         EXPECT_TRUE(texto.ends_with(",00"));
         EXPECT_EQ(enteroTecleado(texto.substr(0, texto.size() - 3)), valor);
+    }
+}
+
+TEST(Cifras, LasExactasSonTodasLasQueTieneElValor) {
+    const auto comparar = [](double valor) {
+        std::array<char, 800> sitio{};
+        const auto fin =
+            std::to_chars(sitio.begin(), sitio.end(), std::abs(valor), std::chars_format::scientific, 766);
+        std::string todas(sitio.data(), fin.ptr);
+        todas.resize(todas.find('e'));
+        todas.erase(1, 1);
+        todas.resize(todas.find_last_not_of('0') + 1);
+        ASSERT_EQ(cifrasExactas(valor).cifras, todas) << valor;
+    };
+    using Limites = std::numeric_limits<double>;
+    for (const double valor :
+         {Limites::denorm_min(), Limites::min(), Limites::max(), 0.1, 0.5, 1.0, 8.0, 9.5, 1e22, 1e23})
+        comparar(valor);
+    std::mt19937_64 azar(3);
+    for (int i = 0; i < 5000; ++i) {
+        const auto valor = std::bit_cast<double>(azar());
+        if (std::isfinite(valor)) comparar(valor);
+        comparar(static_cast<float>(azar() % 200000000) / 1000);
     }
 }
 
