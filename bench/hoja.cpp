@@ -9,9 +9,9 @@
 #include "ui/pintura_hoja.h"
 #include "ui/unidades.h"
 
-#include <QApplication>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QTest>
 #include <benchmark/benchmark.h>
 
 namespace bosquel::bench {
@@ -28,39 +28,39 @@ class Nadie final : public QWidget {
     void mouseMoveEvent(QMouseEvent* evento) override { evento->accept(); }
 };
 
+/// Moves the pointer to and fro by a few pixels, each time until all is painted.
+void mover(benchmark::State& estado, QWidget& ventana, QPoint lugar) {
+    int n = 0;
+    for (auto _ : estado) {
+        ++n;
+        const int pixeles = n % 40 < 20 ? n % 20 : 20 - n % 20;
+        QTest::mouseMove(ventana.windowHandle(), lugar + QPoint(pixeles, pixeles));
+        pintar(ventana);
+    }
+}
+
 void sueloEvento(benchmark::State& estado) {
     Nadie nadie;
+    nadie.setMouseTracking(true);
     nadie.resize(vista);
     nadie.show();
     pintar(nadie);
-    double x = 0;
-    for (auto _ : estado) {
-        x = x > 100 ? 0 : x + 1;
-        QMouseEvent evento(QEvent::MouseMove, QPointF(x, 10), QPointF(x, 10), Qt::NoButton, Qt::LeftButton,
-                           Qt::NoModifier);
-        QApplication::sendEvent(&nadie, &evento);
-        pintar(nadie);
-    }
+    mover(estado, nadie, {10, 10});
 }
 
 bool seMueve(Puesto& puesto) {
     return puesto.dibujo().ObjetoEnMovimiento || !puesto.sesion().paredesEnMovimiento.empty();
 }
 
-/// Takes what stands at a place and moves it to and fro by a few pixels.
+/// Takes what stands at a place and drags it.
 void arrastrar(benchmark::State& estado, Puesto& puesto, float x, float y) {
-    puesto.puntero(QEvent::MouseButtonPress, x, y);
-    puesto.pintar();
-    int n = 0;
-    for (auto _ : estado) {
-        ++n;
-        const int pixeles = n % 40 < 20 ? n % 20 : 20 - n % 20;
-        const auto paso = static_cast<float>(unidadesPorPixel * pixeles);
-        puesto.puntero(QEvent::MouseMove, x + paso, y + paso);
-        puesto.pintar();
-    }
+    const QPoint lugar = puesto.lugar(x, y);
+    QWindow* ventana = puesto.ventana().windowHandle();
+    QTest::mousePress(ventana, Qt::LeftButton, {}, lugar);
+    pintar(puesto.ventana());
+    mover(estado, puesto.ventana(), lugar);
     if (!seMueve(puesto)) estado.SkipWithError("nothing is being dragged");
-    puesto.puntero(QEvent::MouseButtonRelease, x, y);
+    QTest::mouseRelease(ventana, Qt::LeftButton, {}, lugar);
 }
 
 void arrastreMueble(benchmark::State& estado) {
@@ -94,17 +94,10 @@ void arrastreGrupo(benchmark::State& estado) {
     arrastrarPared(estado, puesto, ponerGrupo(puesto.dibujo(), cerca, cerca, 40));
 }
 
-/// Pointer over the sheet, nothing pressed.
+/// The pointer over the sheet, nothing pressed.
 void paso(benchmark::State& estado) {
     Puesto puesto(static_cast<int>(estado.range(0)));
-    int n = 0;
-    for (auto _ : estado) {
-        const QPointF lugar(n % 600, 300);
-        n += 7;
-        QMouseEvent evento(QEvent::MouseMove, lugar, lugar, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(&puesto.hoja(), &evento);
-        puesto.pintar();
-    }
+    mover(estado, puesto.ventana(), puesto.lugar(cerca, cerca));
 }
 
 /// The strokes of the whole drawing, kept in pixels.
@@ -132,7 +125,7 @@ void sueloRepintado(benchmark::State& estado) {
         pintor.fillRect(QRect({}, vista), Qt::white);
         trazos.pintar(pintor);
     }
-    estado.counters["strokes"] = static_cast<double>(trazos.cuantos());
+    estado.SetLabel(std::to_string(trazos.cuantos()) + " strokes");
 }
 
 void salida(benchmark::State& estado) {

@@ -4,7 +4,6 @@
 #include "ui/unidades.h"
 
 #include <QApplication>
-#include <QMouseEvent>
 #include <QWindow>
 
 namespace bosquel::bench {
@@ -12,7 +11,7 @@ namespace bosquel::bench {
 namespace {
 
 // What lies around the viewport in the main window, in pixels, is less than this.
-constexpr QSize ventana{1280 + 160, 800 + 120};
+constexpr QSize tamanoVentana{1280 + 160, 800 + 120};
 
 }  // namespace
 
@@ -20,7 +19,7 @@ Puesto::Puesto(int elementos) : bosquel_(plataforma_, carpeta_.path().toStdStrin
     plataforma_.ponerVentana(&ventana_);
     plataforma_.archivo = archivo();
     bosquel_.cargar();
-    ventana_.resize(ventana);
+    ventana_.resize(tamanoVentana);
     ponerElementos(dibujo(), elementos);
     ventana_.show();
     mostrarTodo();
@@ -35,7 +34,7 @@ void Puesto::mostrarTodo() {
     dibujo().sucia.anadirTodo();
     sesion().vistaSucia = true;
     publicar(sesion());
-    pintar();
+    pintar(ventana_);
 }
 
 void pintar(QWidget& ventana) {
@@ -45,13 +44,9 @@ void pintar(QWidget& ventana) {
     QApplication::sendEvent(&ventana, &peticion);
 }
 
-void Puesto::puntero(QEvent::Type tipo, float x, float y) {
-    const QPointF lugar(x / unidadesPorPixel, y / unidadesPorPixel);
-    const bool suelto = tipo == QEvent::MouseButtonRelease;
-    QMouseEvent evento(tipo, lugar, hoja().mapToGlobal(lugar),
-                       tipo == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                       suelto ? Qt::NoButton : Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(&hoja(), &evento);
+QPoint Puesto::lugar(float x, float y) {
+    const QPoint enHoja = QPointF(x / unidadesPorPixel, y / unidadesPorPixel).toPoint();
+    return hoja().mapTo(&ventana_, enHoja);
 }
 
 }  // namespace bosquel::bench

@@ -5,7 +5,6 @@
 #include "ui/plataforma_qt.h"
 #include "ui/ventana_bosquel.h"
 
-#include <QEvent>
 #include <QTemporaryDir>
 #include <QWidget>
 #include <filesystem>
@@ -43,9 +42,9 @@ class Puesto {
 
     /// Everything that has been changed behind the window's back is shown.
     void mostrarTodo();
-    void pintar() { bench::pintar(ventana_); }
-    /// The pointer, at sheet units: with the button down, pressed or released there.
-    void puntero(QEvent::Type tipo, float x, float y);
+    /// Where a place of the sheet, in sheet units, lies in the window, in pixels.
+    QPoint lugar(float x, float y);
+    QWidget& ventana() { return ventana_; }
 
   private:
     QTemporaryDir carpeta_;

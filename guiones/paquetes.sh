@@ -34,6 +34,14 @@ paquetesPruebas=(
 )
 
 # shellcheck disable=SC2034
+paquetesMedidas=(
+    ccache
+    libbenchmark-dev
+    libglib2.0-dev # a peer, for the files
+    pkgconf
+)
+
+# shellcheck disable=SC2034
 paquetesPaquete=(
     file # dpkg-shlibdeps by way of cpack
     desktop-file-utils
