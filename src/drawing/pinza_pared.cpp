@@ -51,17 +51,29 @@ void seguirA(const Sesion& sesion, Pared& pared, PinzaDePared cual) {
     asignar(pared.ParedPick.Top, static_cast<double>(arrastrada.Top) + sesion.DesfaseGrips[desfase + 1]);
 }
 
-void ensuciarConAberturas(Dibujo& dibujo, int indice, const Pared& pared) {
+void ensuciarConAberturas(Dibujo& dibujo, const Pared& pared, const ParedEnMovimiento& movida) {
     ensuciar(dibujo, pared);
-    ensuciarAberturasPared(dibujo, indice);
+    ensuciarAberturas(dibujo, movida.aberturas);
 }
 
 /// From here to the release the wall is painted over what stands still, and its openings with it.
 void empezarMovimiento(Sesion& sesion, int indice, Pared& pared) {
     if (pared.EnMovimiento) return;
-    ensuciarConAberturas(sesion.dibujo, indice, pared);
+    ParedEnMovimiento movida{static_cast<std::int16_t>(indice), aberturasDePared(sesion.dibujo, indice)};
+    ensuciarConAberturas(sesion.dibujo, pared, movida);
     pared.EnMovimiento = true;
-    sesion.paredesEnMovimiento.push_back(static_cast<std::int16_t>(indice));
+    sesion.paredesEnMovimiento.push_back(std::move(movida));
+}
+
+/// The openings of a wall that is being dragged are known; there may be thousands of others.
+void moverAberturas(Sesion& sesion, int pared) {
+    const auto& movidas = sesion.paredesEnMovimiento;
+    const auto movida = std::find_if(movidas.begin(), movidas.end(),
+                                     [&](const ParedEnMovimiento& una) { return una.indice == pared; });
+    if (movida == movidas.end())
+        MoverPuertasVentanasPared(sesion.dibujo, pared);
+    else
+        ColocarAberturas(sesion.dibujo, movida->aberturas);
 }
 
 void arrastrar(Sesion& sesion, int indice, PinzaDePared cual, float X, float Y) {
@@ -121,7 +133,7 @@ void MoverPared(Sesion& sesion, int indice) {
     MueveTapasPared(*pared);
     GuardaLineasPared(sesion.dibujo, indice);
     ensuciar(sesion.dibujo, *pared);
-    MoverPuertasVentanasPared(sesion.dibujo, indice);
+    moverAberturas(sesion, indice);
 }
 
 void AlinearPared(Sesion& sesion, int indice) {
@@ -175,10 +187,10 @@ void moverPinzaPared(Sesion& sesion, int indice, PinzaDePared cual, bool boton1,
 }
 
 void terminarMovimiento(Sesion& sesion) {
-    for (const int indice : sesion.paredesEnMovimiento)
-        if (Pared* pared = sesion.dibujo.Pared.en(indice)) {
+    for (const ParedEnMovimiento& movida : sesion.paredesEnMovimiento)
+        if (Pared* pared = sesion.dibujo.Pared.en(movida.indice)) {
             pared->EnMovimiento = false;
-            ensuciarConAberturas(sesion.dibujo, indice, *pared);
+            ensuciarConAberturas(sesion.dibujo, *pared, movida);
         }
     sesion.paredesEnMovimiento.clear();
 }

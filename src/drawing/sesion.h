@@ -43,6 +43,12 @@ struct MarcoDeSeleccion {
     bool Visible = false;
 };
 
+/// A wall that is being dragged, and its openings, which were looked up once.
+struct ParedEnMovimiento {
+    std::int16_t indice = 0;
+    std::vector<Referencia> aberturas;
+};
+
 /// The palettes of element buttons, of which one at most is on view.
 enum class Paleta : std::uint8_t { FrMuebles, FrBaño, FrCocina, FrUsuario, FrElectrico, ninguna };
 
@@ -78,7 +84,7 @@ struct Sesion {
     std::array<std::int32_t, 8>
         DesfaseLineas{};  ///< start grip minus the ends of lines 1 and 3, x and y in turn
     std::array<std::int32_t, 4> DesfaseGrips{};  ///< start grip minus end grip, start grip minus centre grip
-    std::vector<std::int16_t> paredesEnMovimiento;
+    std::vector<ParedEnMovimiento> paredesEnMovimiento;
 
     bool vistaSucia = true;  ///< something around the drawing has to be shown anew
 };

@@ -6,21 +6,41 @@
 
 namespace bosquel {
 
-void MoverPuertasVentanasPared(Dibujo& dibujo, int pared) {
-    dibujo.Ventana.recorrer([&](int i, const Ventana& ventana) {
-        if (ventana.NumeroPared == pared) ColocaVentana(dibujo, i, false);
-    });
-    dibujo.Puerta.recorrer([&](int i, const Puerta& puerta) {
-        if (puerta.NumeroPared == pared) ColocaPuerta(dibujo, i, false);
+namespace {
+
+template <class T>
+void anotarSuyas(const Coleccion<T>& coleccion, int pared, std::vector<Referencia>& aberturas) {
+    coleccion.recorrer([&](int indice, const T& abertura) {
+        if (abertura.NumeroPared == pared)
+            aberturas.push_back({Rasgos<T>::clase, static_cast<std::int16_t>(indice)});
     });
 }
 
-void ensuciarAberturasPared(Dibujo& dibujo, int pared) {
-    const auto ensuciarSuya = [&](int, const auto& abertura) {
-        if (abertura.NumeroPared == pared) ensuciar(dibujo, abertura);
-    };
-    dibujo.Ventana.recorrer(ensuciarSuya);
-    dibujo.Puerta.recorrer(ensuciarSuya);
+}  // namespace
+
+std::vector<Referencia> aberturasDePared(const Dibujo& dibujo, int pared) {
+    std::vector<Referencia> aberturas;
+    anotarSuyas(dibujo.Ventana, pared, aberturas);
+    anotarSuyas(dibujo.Puerta, pared, aberturas);
+    return aberturas;
+}
+
+void ColocarAberturas(Dibujo& dibujo, std::span<const Referencia> aberturas) {
+    for (const auto& [clase, indice] : aberturas)
+        (clase == Clase::Ventana ? ColocaVentana : ColocaPuerta)(dibujo, indice, false);
+}
+
+void MoverPuertasVentanasPared(Dibujo& dibujo, int pared) {
+    ColocarAberturas(dibujo, aberturasDePared(dibujo, pared));
+}
+
+void ensuciarAberturas(Dibujo& dibujo, std::span<const Referencia> aberturas) {
+    for (const auto& [clase, indice] : aberturas) {
+        if (const auto* ventana = clase == Clase::Ventana ? dibujo.Ventana.en(indice) : nullptr)
+            ensuciar(dibujo, *ventana);
+        if (const auto* puerta = clase == Clase::Puerta ? dibujo.Puerta.en(indice) : nullptr)
+            ensuciar(dibujo, *puerta);
+    }
 }
 
 }  // namespace bosquel

@@ -2,14 +2,22 @@
 
 #include "model/dibujo.h"
 
+#include <span>
+#include <vector>
+
 namespace bosquel {
 
 // The windows and doors of one wall.
 
-/// Sets all openings of the wall into it anew: windows, then doors, none of them selected.
+/// All openings of the wall: windows, then doors.
+std::vector<Referencia> aberturasDePared(const Dibujo& dibujo, int pared);
+
+/// Sets openings into their walls anew, none of them selected. One that is missing is passed over.
+void ColocarAberturas(Dibujo& dibujo, std::span<const Referencia> aberturas);
+/// All those of the wall.
 void MoverPuertasVentanasPared(Dibujo& dibujo, int pared);
 
-/// What the openings of the wall cover has to be painted again.
-void ensuciarAberturasPared(Dibujo& dibujo, int pared);
+/// What openings cover has to be painted again.
+void ensuciarAberturas(Dibujo& dibujo, std::span<const Referencia> aberturas);
 
 }  // namespace bosquel

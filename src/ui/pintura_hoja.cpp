@@ -86,6 +86,13 @@ class Capas {
             piezas_.push_back({{elemento->orden, false, cual.clase, cual.indice}, nullptr});
     }
 
+    void anadirAbertura(Referencia cual) {
+        if (const Ventana* ventana = cual.clase == Clase::Ventana ? dibujo_.Ventana.en(cual.indice) : nullptr)
+            anadir(cual.clase, cual.indice, *ventana);
+        if (const Puerta* puerta = cual.clase == Clase::Puerta ? dibujo_.Puerta.en(cual.indice) : nullptr)
+            anadir(cual.clase, cual.indice, *puerta);
+    }
+
     void pintar() {
         std::stable_sort(piezas_.begin(), piezas_.end(),
                          [](const Pieza& a, const Pieza& b) { return a.altura < b.altura; });
@@ -196,16 +203,10 @@ void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, dou
 void pintarEnMovimiento(QPainter& pintor, const Sesion& sesion, double escala) {
     const Dibujo& dibujo = sesion.dibujo;
     Capas capas(pintor, dibujo, escala);
-    for (const int indice : sesion.paredesEnMovimiento)
+    for (const auto& [indice, aberturas] : sesion.paredesEnMovimiento) {
         if (const Pared* pared = dibujo.Pared.en(indice)) capas.anadir(Clase::Pared, indice, *pared);
-    const auto anadir = [&](Clase clase, const auto& coleccion) {
-        coleccion.recorrer([&](int indice, const auto& abertura) {
-            if (enMovimiento(dibujo, abertura)) capas.anadir(clase, indice, abertura);
-        });
-    };
-    if (!sesion.paredesEnMovimiento.empty()) {
-        anadir(Clase::Ventana, dibujo.Ventana);
-        anadir(Clase::Puerta, dibujo.Puerta);
+        for (const Referencia abertura : aberturas)
+            capas.anadirAbertura(abertura);
     }
     if (dibujo.ObjetoEnMovimiento && !seEscribe(sesion, *dibujo.ObjetoEnMovimiento))
         capas.anadir(*dibujo.ObjetoEnMovimiento);
