@@ -32,6 +32,8 @@ EditorTexto::EditorTexto(Bosquel& bosquel, QWidget* hoja) : QLineEdit(hoja), bos
     setAccessibleName("Texto libre");
     setFrame(false);
     setTextMargins(-margenPropio, -margenVertical, -margenPropio, -margenVertical);
+    // In the middle, small letters would stand higher than they are drawn.
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
     connect(this, &QLineEdit::textEdited, this,
