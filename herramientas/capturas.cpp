@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -63,17 +64,19 @@ class Fotografo {
 
     /// What a window shows only once something in it has been chosen.
     void retratarEstados(QWidget& abierta) {
-        if (abierta.findChild<QWidget*>("opt_0")) retratar(abierta, "-opciones");
+        if (const auto opciones = abierta.findChildren<QWidget*>(QRegularExpression("^opt_[0-9]$"));
+            !opciones.isEmpty())
+            retratar(abierta, QString("-%1-opciones").arg(opciones.size()));
         if (auto* tresTramos = abierta.findChild<QAbstractButton*>("optTramos_3")) {
             tresTramos->click();
-            retratar(abierta, "-3");
+            retratar(abierta, "-3-tramos");
         }
         if (auto* personalizados = abierta.findChild<QAbstractButton*>("optSchemaColor_1")) {
             personalizados->click();
             auto* solapas = abierta.findChild<QTabWidget*>("Solapas");
             for (int i = 0; i < solapas->count(); ++i) {
                 solapas->setCurrentIndex(i);
-                retratar(abierta, QString("-%1").arg(i));
+                retratar(abierta, QString("-solapa-%1").arg(i + 1));
             }
         }
     }
