@@ -7,6 +7,18 @@ using namespace bosquel;
 
 namespace {
 
+/// The rows of a picture in which something dark stands.
+std::vector<int> filasConTinta(const QImage& imagen) {
+    std::vector<int> filas;
+    for (int y = 0; y < imagen.height(); ++y)
+        for (int x = 0; x < imagen.width(); ++x)
+            if (qRed(imagen.pixel(x, y)) < 160) {
+                filas.push_back(y);
+                break;
+            }
+    return filas;
+}
+
 class ElementosEnVentana : public apoyo::VentanaDePrueba {
   protected:
     QLineEdit& editor() { return control<QLineEdit>("TextoLibre_1"); }
@@ -123,6 +135,27 @@ TEST_F(ElementosEnVentana, UnTextoSeEscribeDondeEsta) {
     EXPECT_FALSE(editor().isVisible());
     EXPECT_TRUE(control("Hoja").hasFocus());
     EXPECT_EQ(dibujo().TextoLibre.en(1)->Text, "Cocina");
+}
+
+TEST_F(ElementosEnVentana, LasLetrasEstanALaMismaAlturaMientrasSeEscribenYDespues) {
+    for (int paso = 0; paso < 3; ++paso) {
+        pulsar("BttUsuario_3");
+        auto& campo = *ventana.findChild<QLineEdit*>(QString("TextoLibre_%1").arg(paso + 1));
+        campo.setCursorPosition(0);
+        campo.selectAll();
+        QTest::keyClicks(&campo, "ÁÑÓjgp");
+        // Neither the frame nor the caret, which stands at the end.
+        const QRect letras(campo.pos() + QPoint(1, 1),
+                           QSize(campo.fontMetrics().horizontalAdvance("ÁÑÓjg"), campo.height() + 4));
+        const auto tinta = [&] { return filasConTinta(control("Hoja").grab(letras).toImage()); };
+        const auto escribiendo = tinta();
+        clicEnHoja({300, 300});
+        EXPECT_EQ(escribiendo, tinta()) << dibujo().FactorZoomActual;
+        EXPECT_GT(escribiendo.size(), 5U);
+        dibujo().TextoLibre.en(paso + 1)->Left = 6000;
+        anunciar(dibujo(), Clase::TextoLibre, paso + 1);
+        pulsar("BttPrincipal_4");
+    }
 }
 
 TEST_F(ElementosEnVentana, ElCursorDelTextoVaDondeSePulsa) {
