@@ -1,6 +1,7 @@
 #include "ui/aplicacion.h"
 
 #include "ui/iconos.h"
+#include "ui/traductor.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -32,6 +33,7 @@ void prepararAplicacion() {
     auto* traductor = new QTranslator(qApp);
     if (traductor->load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(traductor);
+    QApplication::installTranslator(new Traductor(qApp));
     QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
     QApplication::setStyle(new Estilo);
     QApplication::setWindowIcon(icono("bosquel", QApplication::palette()));
