@@ -10,7 +10,8 @@ namespace bosquel {
 namespace {
 
 bool seExcluyen(const QRadioButton& uno, const QRadioButton& otro) {
-    return uno.group() == otro.group() && (uno.group() || uno.parentWidget() == otro.parentWidget());
+    return uno.group() == otro.group() &&
+           (uno.group() != nullptr || uno.parentWidget() == otro.parentWidget());
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 #include "ui/traductor.h"
 
 #include <algorithm>
-#include <iterator>
+#include <array>
 #include <string_view>
 
 namespace bosquel {
@@ -14,7 +14,7 @@ struct Traduccion {
 };
 
 // clang-format off
-constexpr Traduccion traducciones[]{
+constexpr auto traducciones = std::to_array<Traduccion>({
     {"Print Device Input Slot", "Automatic", "Automática"},
     {"Print Device Output Bin", "Automatic", "Automática"},
     {"QAbstractFileIconProvider", "Alias", "Alias"},
@@ -62,16 +62,16 @@ constexpr Traduccion traducciones[]{
     {"QPrintSettingsOutput", "Off", "No"},
     {"QPrintSettingsOutput", "Long side binding", "Encuadernar por el lado largo"},
     {"QPrintSettingsOutput", "Short side binding", "Encuadernar por el lado corto"},
-};
+});
 // clang-format on
 
 }  // namespace
 
 QString Traductor::translate(const char* contexto, const char* texto, const char*, int) const {
-    const auto* hallada =
-        std::find_if(std::begin(traducciones), std::end(traducciones),
-                     [=](const Traduccion& una) { return una.contexto == contexto && una.texto == texto; });
-    return hallada == std::end(traducciones) ? QString() : QString::fromUtf8(hallada->enEspanol);
+    const auto* hallada = std::find_if(traducciones.begin(), traducciones.end(), [=](const Traduccion& una) {
+        return una.contexto == contexto && una.texto == texto;
+    });
+    return hallada == traducciones.end() ? QString() : QString::fromUtf8(hallada->enEspanol);
 }
 
 }  // namespace bosquel
