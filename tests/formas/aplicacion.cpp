@@ -1,9 +1,13 @@
+#include <QAbstractButton>
 #include <QColorDialog>
 #include <QGroupBox>
-#include <QInputDialog>
 #include <QLabel>
+#include <QLocale>
+#include <QMap>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTest>
 #include <gtest/gtest.h>

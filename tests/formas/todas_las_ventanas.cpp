@@ -3,6 +3,7 @@
 
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSet>
 
 using namespace bosquel;
 
@@ -15,7 +16,7 @@ constexpr QSize sitio{1366, 768 - 28 - 32};
 class TodasLasVentanas : public apoyo::VentanaDePrueba {
   protected:
     TodasLasVentanas() {
-        connect(&reloj, &QTimer::timeout, [this] { mirar(); });
+        QObject::connect(&reloj, &QTimer::timeout, [this] { mirar(); });
         reloj.start(5);
     }
 
@@ -44,12 +45,6 @@ class TodasLasVentanas : public apoyo::VentanaDePrueba {
     QSet<QString> vistas;
 
   private:
-    using QObjectConexion = QMetaObject::Connection;
-    template <class... Que>
-    static QObjectConexion connect(Que&&... que) {
-        return QObject::connect(std::forward<Que>(que)...);
-    }
-
     /// Applied: the openings want a wall.
     void ponMuroMirado() {
         aplicar = true;
@@ -92,9 +87,8 @@ TEST_F(TodasLasVentanas, SeManejanConElTeclado) {
         SCOPED_TRACE(abierta.objectName().toStdString());
         apoyo::esperarAccesible(abierta);
         EXPECT_FALSE(abierta.accessibleName().isEmpty());
-        for (const auto* boton : abierta.findChildren<QPushButton*>()) {
+        for (const auto* boton : abierta.findChildren<QPushButton*>())
             EXPECT_EQ(boton->isDefault(), boton->text() == "&Aplicar" || boton->text() == "&Imprimir");
-        }
         ASSERT_TRUE(abierta.focusWidget());
         const QStringList recorrido = apoyo::recorridoTab(abierta);
         for (const auto* control : abierta.findChildren<QWidget*>()) {
