@@ -2,6 +2,7 @@
 // opens is painted, answered and closed. With QT_QPA_PLATFORM=offscreen it needs no display; QT_SCALE_FACTOR
 // says how dense the pictures are.
 
+#include "ui/aplicacion.h"
 #include "ui/plataforma_qt.h"
 #include "ui/ventana_bosquel.h"
 
@@ -9,14 +10,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QRegularExpression>
 #include <QSet>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <QTranslator>
 #include <cstdlib>
 
 using namespace bosquel;
@@ -34,11 +34,14 @@ class Fotografo {
         reloj_.start(mirada);
     }
 
-    void retratar(QWidget& ventana) {
-        QString nombre = ventana.objectName();
+    /// Each window once in each of its states; `estado` is empty for the one that it opens in.
+    void retratar(QWidget& ventana, const QString& estado = {}) {
+        QString nombre = ventana.objectName() + estado;
+        if (vistas_.contains(nombre)) return;
+        vistas_.insert(nombre);
         nombre.replace("ñ", "n");
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         ventana.grab().save(carpeta_.filePath(nombre + ".png"), "PNG", 0);
-        vistas_.insert(ventana.objectName());
     }
 
   private:
@@ -48,7 +51,8 @@ class Fotografo {
         if (auto* pregunta = qobject_cast<QMessageBox*>(abierta)) return contestar(*pregunta);
         if (abierta->objectName() == "Entrada" && (esperado_ += mirada) < hastaElRotulo) return;
         const bool nueva = !vistas_.contains(abierta->objectName());
-        if (nueva) retratar(*abierta);
+        retratar(*abierta);
+        retratarEstados(*abierta);
         auto* imprimir = abierta->findChild<QAbstractButton*>("BotonEdicion_0");
         // Not from within: what the click opens waits for the next look.
         if (imprimir && nueva) return QTimer::singleShot(0, imprimir, &QAbstractButton::click);
@@ -56,6 +60,25 @@ class Fotografo {
             dialogo->accept();
         else
             abierta->close();
+    }
+
+    /// What a window shows only once something in it has been chosen.
+    void retratarEstados(QWidget& abierta) {
+        if (const auto opciones = abierta.findChildren<QWidget*>(QRegularExpression("^opt_[0-9]$"));
+            !opciones.isEmpty())
+            retratar(abierta, QString("-%1-opciones").arg(opciones.size()));
+        if (auto* tresTramos = abierta.findChild<QAbstractButton*>("optTramos_3")) {
+            tresTramos->click();
+            retratar(abierta, "-3-tramos");
+        }
+        if (auto* personalizados = abierta.findChild<QAbstractButton*>("optSchemaColor_1")) {
+            personalizados->click();
+            auto* solapas = abierta.findChild<QTabWidget*>("Solapas");
+            for (int i = 0; i < solapas->count(); ++i) {
+                solapas->setCurrentIndex(i);
+                retratar(abierta, QString("-solapa-%1").arg(i + 1));
+            }
+        }
     }
 
     /// The whole drawing is sent out; a stair is aligned to nothing.
@@ -108,10 +131,7 @@ void levantar(Bosquel& bosquel) {
 int main(int argc, char* argv[]) {
     QApplication aplicacion(argc, argv);
     if (argc != 2 || !QDir().mkpath(QString::fromLocal8Bit(argv[1]))) return EXIT_FAILURE;
-    QTranslator traductor;
-    if (traductor.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&traductor);
-    QLocale::setDefault(QLocale(QLocale::Spanish, QLocale::Spain));
+    prepararAplicacion();
 
     const QTemporaryDir carpeta;
     Fotografo fotografo(QString::fromLocal8Bit(argv[1]));

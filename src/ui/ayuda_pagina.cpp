@@ -108,7 +108,9 @@ void PaginaAyuda::reponer(int primero) {
     marcar();
     QTextCursor arriba(document());
     arriba.setPosition(std::min(primero, document()->characterCount() - 1));
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect(arriba).top());
+    const int alto = verticalScrollBar()->value() + cursorRect(arriba).top();
+    // What stands above the first letters belongs to them.
+    verticalScrollBar()->setValue(arriba.atStart() ? 0 : alto);
 }
 
 QVariant PaginaAyuda::loadResource(int tipo, const QUrl& nombre) {

@@ -1,5 +1,6 @@
 #include "ui/dialogo.h"
 
+#include "ui/radios.h"
 #include "ui/rotulos.h"
 #include "ui/unidades.h"
 
@@ -73,6 +74,7 @@ void Dialogo::reject() {
 }
 
 void Dialogo::showEvent(QShowEvent* suceso) {
+    if (!suceso->spontaneous()) enfocarElegidos(*this);
     if (parentWidget() && !suceso->spontaneous()) colocar();
     QDialog::showEvent(suceso);
 }

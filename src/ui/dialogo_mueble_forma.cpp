@@ -3,6 +3,7 @@
 #include "furnishing/dialogo_mueble.h"
 #include "model/standard.h"
 #include "ui/campo_numero.h"
+#include "ui/radios.h"
 #include "ui/rotulos.h"
 #include "ui/selector_color.h"
 #include "ui/textos.h"
@@ -28,12 +29,6 @@ void ponerColor(QHBoxLayout* fila, const QString& rotulo, SelectorColor* selecto
     fila->addWidget(rotular(rotulo, selector));
     fila->addWidget(selector);
     fila->addSpacing(separacionColores);
-}
-
-/// Of the radios that stand together the Tab key visits the one that is set.
-void enfocarSolo(const QRadioButton* elegido) {
-    for (auto* radio : elegido->parentWidget()->findChildren<QRadioButton*>())
-        radio->setFocusPolicy(radio == elegido ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 }  // namespace
@@ -100,8 +95,7 @@ void DialogoMuebleForma::ponerFinal() {
     cuerpo()->addWidget(colores());
     cuerpo()->addWidget(casilla());
     ordenar({"Check1", "Command1", "Command2"});
-    for (const auto* elegido : findChildren<QRadioButton*>())
-        if (elegido->isChecked()) enfocarSolo(elegido);
+    enfocarElegidos(*this);
     auto* primero = findChild<QWidget*>("Command2")->nextInFocusChain();
     while ((primero->focusPolicy() & Qt::TabFocus) == 0)
         primero = primero->nextInFocusChain();

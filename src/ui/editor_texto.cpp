@@ -10,8 +10,11 @@ namespace bosquel {
 
 namespace {
 
-/// What a line edit keeps free around its text, px.
-constexpr int margenPropio = 2, margenVertical = 1;
+/// What a line edit keeps free at the ends of its text, px.
+constexpr int margenPropio = 2;
+
+/// Room above and below the line, px: accents of small capitals rise out of it.
+constexpr int aire = 3;
 
 const TextoLibre* textoConFoco(const Sesion& sesion) {
     if (!sesion.foco || sesion.foco->clase != Clase::TextoLibre) return nullptr;
@@ -31,7 +34,7 @@ QPalette tintaSobrePapel(const QPalette& paleta, Color tinta) {
 EditorTexto::EditorTexto(Bosquel& bosquel, QWidget* hoja) : QLineEdit(hoja), bosquel_(bosquel) {
     setAccessibleName("Texto libre");
     setFrame(false);
-    setTextMargins(-margenPropio, -margenVertical, -margenPropio, -margenVertical);
+    setTextMargins(-margenPropio, 0, -margenPropio, 0);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
     connect(this, &QLineEdit::textEdited, this,
@@ -44,8 +47,8 @@ void EditorTexto::mostrar(const TextoLibre& texto, QPoint origen) {
     setObjectName(QString("TextoLibre_%1").arg(bosquel_.sesion().foco->indice));
     setFont(fuenteTexto(texto.FontSize, 1 / unidadesPorPixel));
     setPalette(tintaSobrePapel(palette(), texto.ForeColor));
-    setGeometry(QRect(QPoint(aPixeles(texto.Left), aPixeles(texto.Top)) - origen,
-                      QSize(aPixeles(texto.Width), aPixeles(texto.Height))));
+    const QPoint esquina = QPoint(aPixeles(texto.Left), aPixeles(texto.Top)) - origen;
+    setGeometry(esquina.x(), esquina.y() - aire, aPixeles(texto.Width), fontMetrics().height() + 2 * aire);
     show();
     setFocus();
 }

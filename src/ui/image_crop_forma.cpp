@@ -123,6 +123,7 @@ ImageCropForma::ImageCropForma(ImageCrop& logica, QWidget* padre)
         hoja_->repetirPuntero();
     });
     logica_.alCambiar = [this] { mostrar(); };
+    findChild<QWidget*>("BotonEdicion_0")->setFocus();
 
     // Rounded up: a sheet that has room needs no bar.
     const QSize entera = lienzo_.HojaSalida().size() +

@@ -60,7 +60,9 @@ QWidget* ParalelasForma::boceto() {
     // Paper, so that the sketch reads the same on every desktop.
     QPalette colores = campo->palette();
     colores.setColor(QPalette::Window, Qt::white);
+    colores.setColor(QPalette::Base, Qt::white);
     colores.setColor(QPalette::WindowText, Qt::black);
+    colores.setColor(QPalette::Text, Qt::black);
     campo->setPalette(colores);
     const Segmento& trazo = logica_.Line1();
     const QLineF enPixeles(QPointF(trazo.X1, trazo.Y1) / unidadesPorPixel,

@@ -23,14 +23,16 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDialogButtonBox>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFontMetricsF>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTimer>
+#include <QTreeView>
 #include <cstdlib>
 
 namespace bosquel {
@@ -79,6 +81,18 @@ std::filesystem::path carpetaInicial(const std::filesystem::path& carpeta) {
     return std::filesystem::is_directory(carpeta, error) ? carpeta : carpeta.parent_path();
 }
 
+/// All columns in sight, with room for names above all.
+void darEspacio(QFileDialog& dialogo) {
+    constexpr int lateral = 150;
+    constexpr QSize tamano{880, 500};
+    dialogo.resize(tamano);
+    if (auto* partes = dialogo.findChild<QSplitter*>()) partes->setSizes({lateral, tamano.width() - lateral});
+    if (auto* lista = dialogo.findChild<QTreeView*>()) {
+        lista->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        lista->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+}
+
 }  // namespace
 
 PlataformaQt::PlataformaQt() = default;
@@ -91,8 +105,6 @@ Respuesta PlataformaQt::mensaje(const Mensaje& mensaje) {
     QMessageBox caja(duenoDe(ventana_));
     caja.setWindowTitle(aQString(mensaje.titulo));
     caja.setTextFormat(Qt::PlainText);
-    // Yes, no and cancel from left to right, whatever the desktop's order.
-    caja.setStyleSheet(QStringLiteral("QMessageBox { button-layout: %1 }").arg(QDialogButtonBox::WinLayout));
     caja.setText(aQString(mensaje.texto));
     caja.setIcon(mensaje.icono == Icono::pregunta ? QMessageBox::Question : QMessageBox::Information);
     const auto botones = botonesDe(mensaje.botones);
@@ -153,6 +165,7 @@ std::optional<std::filesystem::path> PlataformaQt::elegirArchivo(const PeticionA
     dialogo.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite);
     dialogo.setAcceptMode(guardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialogo.setFileMode(QFileDialog::AnyFile);
+    darEspacio(dialogo);
     if (dialogo.exec() != QDialog::Accepted || dialogo.selectedFiles().isEmpty()) return std::nullopt;
     return std::filesystem::path(dialogo.selectedFiles().constFirst().toStdString());
 }

@@ -49,11 +49,15 @@ terminar() {
     wait "$proceso" 2>/dev/null || true
 }
 
+# For a script that has more to put away.
+alRecoger() { :; }
+
 recoger() {
     local resultado=$?
     trap - EXIT
     terminar "$procesoPrograma"
     terminar "$procesoPantalla"
+    alRecoger
     rm -rf "$taller"
     exit "$resultado"
 }

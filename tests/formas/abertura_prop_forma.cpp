@@ -205,3 +205,16 @@ TEST_F(PuertaPropFormaElegir, CentradaApagaElMarcoDelExtremo) {
     pulsa("Command1");
     EXPECT_EQ(puerta().Alineacion, "Centro");
 }
+
+TEST_F(VentanaPropFormaElegir, ElTabuladorVaDeArribaAbajoYALoElegidoDeCadaGrupo) {
+    abrirVentana();
+    EXPECT_EQ(recorridoTab(*forma),
+              QStringList({"txtLongitud", "Punto1", "optAlineacion_0", "Check1", "Command1", "Command2"}));
+}
+
+TEST_F(PuertaPropFormaElegir, ElTabuladorVaDeArribaAbajoYALoElegidoDeCadaGrupo) {
+    abrirPuerta();
+    QStringList recorrido{"txtLongitud",  "optHojas_0", "Punto2", "Lado1",    "optAlineacion_1",
+                          "TxtDistancia", "optLado_0",  "Check1", "Command1", "Command2"};
+    EXPECT_EQ(recorridoTab(*forma), recorrido);
+}

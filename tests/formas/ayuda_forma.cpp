@@ -245,6 +245,16 @@ TEST_F(AyudaFormaPrueba, AlCambiarDeTamanoLaPaginaSigueMarcadaYEnSuSitio) {
     EXPECT_TRUE(pagina().extraSelections().isEmpty()) << "what was looked for was the other page's";
 }
 
+TEST_F(AyudaFormaPrueba, AlCambiarDeAnchoSeSigueViendoElPrincipioEntero) {
+    pagina().setSource(QUrl("chm:/larga.html"));
+    for (const int ancho : {600, 1000}) {
+        forma.resize(ancho, 400);
+        QApplication::processEvents();
+        EXPECT_GT(pagina().verticalScrollBar()->maximum(), 0);
+        EXPECT_EQ(pagina().verticalScrollBar()->value(), 0) << ancho;
+    }
+}
+
 TEST_F(AyudaFormaPrueba, UnaImagenNoEsMasAnchaQueElTexto) {
     pagina().setSource(QUrl("chm:/ancha.html"));
     for (const int ancho : {1000, 600}) {

@@ -1,3 +1,5 @@
+#include "ui/aplicacion.h"
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
@@ -5,6 +7,7 @@
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication programa(argc, argv);
+    bosquel::prepararAplicacion();
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

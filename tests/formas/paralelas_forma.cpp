@@ -87,3 +87,16 @@ TEST_F(ParalelasFormaPrueba, LosBotonesEstanACadaLadoDelTrazo) {
     EXPECT_NEAR(uno.x(), medio.x(), 1);
     EXPECT_NE(uno.y(), dos.y());
 }
+
+TEST_F(ParalelasFormaPrueba, ElBocetoEsPapelTambienEnUnEscritorioOscuro) {
+    const QPalette antes = QApplication::palette();
+    QApplication::setPalette(QPalette(QColor(40, 40, 40)));
+    Paralelas logica(dibujo, 1);
+    ParalelasForma forma(logica);
+    forma.ensurePolished();
+    const QWidget& lado = control(forma, "Punto1");
+    EXPECT_EQ(color(*lado.parentWidget(), QPalette::Window), QColor(Qt::white));
+    EXPECT_EQ(color(lado, QPalette::Base), QColor(Qt::white));
+    EXPECT_EQ(color(lado, QPalette::Text), QColor(Qt::black));
+    QApplication::setPalette(antes);
+}

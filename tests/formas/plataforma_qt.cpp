@@ -1,9 +1,11 @@
 #include "formas/ventana_de_prueba.h"
 
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 #include <algorithm>
 
 using namespace bosquel;
@@ -65,6 +67,32 @@ TEST_F(PlataformaQtPrueba, GuardarPreguntaElFicheroConElDialogoDelPropioToolkit)
     pulsar("BttPrincipal_2");
     EXPECT_TRUE(std::filesystem::exists(carpeta.ruta() / "piso.bqr"));
     EXPECT_EQ(ventana.windowTitle(), "piso.bqr - Bosquel Rapiz");
+}
+
+TEST_F(PlataformaQtPrueba, LosBotonesDeLasCajasNoTienenImagenComoLosDeLosDialogos) {
+    cuandoSeAbra<QMessageBox>([](QMessageBox& caja) {
+        for (const QAbstractButton* boton : caja.buttons())
+            EXPECT_TRUE(boton->icon().isNull());
+        caja.reject();
+    });
+    plataforma.mensaje({"Aviso", "¿?", Icono::pregunta, Botones::siNoCancelar});
+}
+
+TEST_F(PlataformaQtPrueba, ElDialogoDeFicherosEnsenaTodasSusColumnasEnEspanol) {
+    cuandoSeAbra<QFileDialog>([](QFileDialog& dialogo) {
+        QApplication::processEvents();
+        const auto& lista = *dialogo.findChild<QTreeView*>("treeView");
+        QStringList columnas;
+        for (int i = 0; i < lista.header()->count(); ++i) {
+            columnas << lista.model()->headerData(i, Qt::Horizontal).toString();
+            EXPECT_GE(lista.header()->sectionSize(i), lista.header()->sectionSizeHint(i));
+        }
+        EXPECT_EQ(columnas, QStringList({"Nombre", "Tamaño", "Tipo", "Última modificación"}));
+        EXPECT_LE(lista.header()->length(), lista.viewport()->width());
+        EXPECT_GT(lista.header()->sectionSize(0), 200);
+        dialogo.reject();
+    });
+    pulsar("BttPrincipal_1");
 }
 
 TEST_F(PlataformaQtPrueba, SePuedePedirAbrirUnFicheroQueNoExiste) {

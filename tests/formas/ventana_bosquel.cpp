@@ -1,7 +1,9 @@
 #include "drawing/vista.h"
 #include "formas/ventana_de_prueba.h"
 
+#include <QAction>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QWheelEvent>
 
 using namespace bosquel;
@@ -135,6 +137,42 @@ TEST_F(VentanaBosquelPrueba, NingunaOtraTeclaHaceNada) {
     EXPECT_TRUE(dibujo().Pared.en(1));
     EXPECT_EQ(dibujo().FactorZoomActual, 0.5);
     EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
+TEST_F(VentanaBosquelPrueba, NoTieneAtajos) {
+    EXPECT_TRUE(ventana.findChildren<QShortcut*>().isEmpty());
+    for (const QAction* accion : ventana.findChildren<QAction*>())
+        EXPECT_TRUE(accion->shortcuts().isEmpty()) << accion->text().toStdString();
+    for (const QAbstractButton* boton : ventana.findChildren<QAbstractButton*>())
+        EXPECT_TRUE(boton->shortcut().isEmpty()) << boton->objectName().toStdString();
+    for (const QLabel* letrero : ventana.findChildren<QLabel*>())
+        EXPECT_FALSE(letrero->buddy());
+}
+
+TEST_F(VentanaBosquelPrueba, DelTecladoEnteroSoloSuprimirActua) {
+    ponMuro({100, 200});
+    clicEnHoja(centro(dibujo().Pared.en(1)->ParedPick));
+    control("Hoja").setFocus();
+    const auto aspecto = [this] {
+        QApplication::processEvents();
+        return ventana.grab().toImage();
+    };
+    const QImage antes = aspecto();
+    QList<int> teclas;
+    for (int tecla = Qt::Key_Space; tecla <= Qt::Key_AsciiTilde; ++tecla)
+        teclas << tecla;
+    for (int tecla = Qt::Key_Escape; tecla <= Qt::Key_F35; ++tecla)
+        if (tecla != Qt::Key_Tab && tecla != Qt::Key_Backtab && tecla != Qt::Key_Delete) teclas << tecla;
+    for (const int tecla : teclas)
+        for (const auto con :
+             {Qt::KeyboardModifiers{}, Qt::KeyboardModifiers{Qt::ShiftModifier},
+              Qt::KeyboardModifiers{Qt::ControlModifier}, Qt::KeyboardModifiers{Qt::AltModifier}})
+            QTest::sendKeyEvent(QTest::Click, &control("Hoja"), static_cast<Qt::Key>(tecla), QString(), con);
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_EQ(ventana.focusWidget(), &control("Hoja"));
+    EXPECT_EQ(aspecto(), antes);
+    QTest::keyClick(&control("Hoja"), Qt::Key_Delete);
+    EXPECT_FALSE(dibujo().Pared.en(1));
 }
 
 TEST_F(VentanaBosquelPrueba, ElBordeSeElevaBajoElPunteroYBajaFueraDeLosBotones) {

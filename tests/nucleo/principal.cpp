@@ -107,6 +107,19 @@ TEST(Salir, ContestadoQueSiTerminaSinGuardar) {
     EXPECT_EQ(banco.carpeta.cuantos(), 0);
 }
 
+TEST(Salir, TampocoSalvaPorElCaminoElMinutoQueLlegaDuranteLaPregunta) {
+    Banco banco;
+    banco.ponMuro();
+    banco.minutos(4);
+    banco.plataforma.alPreguntar = [&](const Mensaje&) {
+        banco.minutos(1);
+        return Respuesta::si;
+    };
+    banco.boton("Salir");
+    EXPECT_TRUE(banco.plataforma.terminado);
+    EXPECT_EQ(banco.carpeta.cuantos(), 0);
+}
+
 TEST(Salir, ContestadoQueNoDejaLaCompuertaCerradaHastaLaOrdenSiguiente) {
     Banco banco;
     banco.plataforma.respuestas = {Respuesta::no};
@@ -168,6 +181,21 @@ TEST(Suprimir, HaceLoMismoQueElBoton) {
     banco.suprimir();
     EXPECT_TRUE(banco.plataforma.mensajes.empty());
     EXPECT_FALSE(banco.sesion().Ocupado);
+}
+
+TEST(Suprimir, SinNadaSeleccionadoSoloOcultaElMarco) {
+    Banco banco;
+    const int muro = banco.ponMuro();
+    const int silla = banco.crea(Clase::MblSilla);
+    banco.guarda("antes");
+    banco.clic({6000, 9000});
+    banco.sesion().RectSel.Visible = true;
+    banco.suprimir();
+    EXPECT_FALSE(banco.marco().Visible);
+    EXPECT_TRUE(banco.dibujo().Pared.existe(muro));
+    EXPECT_TRUE(banco.dibujo().MblSilla.existe(silla));
+    banco.guarda("despues");
+    EXPECT_EQ(banco.bytes("antes.bqr"), banco.bytes("despues.bqr"));
 }
 
 TEST(Definir, AbreElDialogoDelMuroActualYNingunoSiSePulsoLaHoja) {
