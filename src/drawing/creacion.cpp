@@ -85,7 +85,7 @@ void crearTexto(Sesion& sesion) {
     auto& coleccion = sesion.dibujo.TextoLibre;
     TextoLibre* nuevo = crear(sesion, Clase::TextoLibre, coleccion);
     if (!nuevo) return;
-    nuevo->FontSize = puntosDeTexto * sesion.dibujo.FactorZoomActual;
+    asignar(nuevo->FontSize, puntosDeTexto * sesion.dibujo.FactorZoomActual);
     ajustarATexto(sesion, *nuevo);
     darFoco(sesion, ultimo(Clase::TextoLibre, coleccion));
 }

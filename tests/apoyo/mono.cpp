@@ -74,8 +74,8 @@ Mono::Mono(unsigned semilla) : azar_(semilla) {
 const std::vector<Mono::Accion>& Mono::acciones() {
     // clang-format off
     static const std::vector<Accion> todas{
-        {10, &Mono::boton},  {5, &Mono::relacion}, {3, &Mono::tipo},      {8, &Mono::mueble},
-        {8, &Mono::division}, {2, &Mono::electrico}, {10, &Mono::mueve},  {8, &Mono::pulsa},
+        {10, &Mono::boton}, {8, &Mono::relacion}, {3, &Mono::tipo},      {8, &Mono::mueble},
+        {12, &Mono::division}, {2, &Mono::electrico}, {10, &Mono::mueve},  {8, &Mono::pulsa},
         {8, &Mono::suelta},  {22, &Mono::clic},    {8, &Mono::dobleClic}, {14, &Mono::arrastra},
         {3, &Mono::regla},   {6, &Mono::teclado},  {4, &Mono::relojes},   {3, &Mono::vista},
         {1, &Mono::guardaYAbre},
@@ -124,10 +124,11 @@ void Mono::comprueba() {
 }
 
 std::string Mono::boton() {
-    static constexpr std::array frecuentes{
-        Principal::Zoom,     Principal::Definir, Principal::Opciones, Principal::Eliminar, Principal::Colores,
-        Principal::Imprimir, Principal::Guardar, Principal::Abrir,    Principal::Salir,    Principal::Ayuda};
-    const Principal cual = suerte(1) ? Principal::Nuevo : una(frecuentes);
+    static constexpr std::array frecuentes{Principal::Zoom,     Principal::Definir, Principal::Opciones,
+                                           Principal::Eliminar, Principal::Colores, Principal::Imprimir,
+                                           Principal::Guardar,  Principal::Salir,   Principal::Ayuda};
+    static constexpr std::array raros{Principal::Nuevo, Principal::Abrir};
+    const Principal cual = suerte(8) ? una(raros) : una(frecuentes);
     auto& archivos = banco_.plataforma.archivos;
     archivos.clear();
     if (cual == Principal::Abrir && !suerte(20)) {
@@ -146,6 +147,9 @@ std::string Mono::relacion() {
     const int cual = azar_.entre(0, 3);
     banco_.bosquel.pulsarOperacion(cual);
     puedeSeguirOcupado_ = false;
+    // Two walls to join, most times.
+    for (int i = azar_.entre(0, 3); i > 0; --i)
+        clicEn(lugarDeMuro());
     return std::string(BttOperacion[static_cast<std::size_t>(cual)]);
 }
 
@@ -163,6 +167,7 @@ std::string Mono::mueble() {
         case 1: banco_.bosquel.pulsarBaño(cual); break;
         default: banco_.bosquel.pulsarCocina(cual);
     }
+    if (suerte(20)) banco_.bosquel.pulsarPrincipal(Principal::Definir);
     return "mueble " + std::to_string(cual);
 }
 
@@ -208,18 +213,19 @@ std::string Mono::suelta() {
 }
 
 std::string Mono::clic() {
-    const Punto en = lugar();
+    clicEn(lugar());
+    return "click";
+}
+
+void Mono::clicEn(Punto en) {
     mover(en);
     pulsar(en);
     soltar(en);
-    return "click";
 }
 
 std::string Mono::dobleClic() {
     const Punto en = lugar();
-    mover(en);
-    pulsar(en);
-    soltar(en);
+    clicEn(en);
     if (suerte(70)) mover(en);
     boton1_ = true;
     banco_.bosquel.dobleClic(en.x, en.y);
@@ -317,6 +323,13 @@ std::string Mono::vacia() {
     puedeSeguirOcupado_ = false;
     EXPECT_EQ(cuantos(banco_.dibujo()), 0);
     return "empty";
+}
+
+Punto Mono::lugarDeMuro() {
+    std::vector<Punto> todos;
+    banco_.dibujo().Pared.recorrer(
+        [&](int, const Pared& pared) { todos.push_back(banco_.centro(pared.ParedPickCentro)); });
+    return todos.empty() ? lugar() : una(todos);
 }
 
 /// The middle of each grip, and a point inside whatever stands at a place of its own.

@@ -60,6 +60,7 @@ class Mono {
 
     // What a hand may aim at or type.
     Punto lugar();
+    Punto lugarDeMuro();
     std::vector<Punto> blancos();
     std::string tecleado();
     void escribe(std::string& campo);
@@ -71,6 +72,7 @@ class Mono {
     void mover(Punto a) { banco_.bosquel.mover(boton1_, boton1_ || otroBoton_, a.x, a.y); }
     void pulsar(Punto en);
     void soltar(Punto en);
+    void clicEn(Punto en);
 
     // The hands in the dialogs.
     void pon();
