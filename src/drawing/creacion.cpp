@@ -5,6 +5,7 @@
 #include "drawing/foco.h"
 #include "drawing/texto_libre.h"
 #include "drawing/vista.h"
+#include "model/numeros.h"
 #include "stairs_symbols/catalogo.h"
 
 #include <algorithm>
