@@ -3,7 +3,8 @@
 #include "drawing/sesion.h"
 #include "furnishing/dibujar_elemento.h"
 #include "furnishing/recuadro.h"
-#include "surface/grabadora.h"
+#include "output/escala.h"
+#include "surface/superficie_salida.h"
 
 #include <algorithm>
 #include <cmath>
@@ -110,6 +111,25 @@ void comprobarVista(const Sesion& sesion) {
     }
 }
 
+/// A surface that wants finite numbers: what is drawn is drawn on paper and on a screen.
+class Vigia : public SuperficieSalida {
+  public:
+    void FillStyle(Relleno) override {}
+    void FillColor(Color) override {}
+    void CurrentX(double x) override { finitos({x}); }
+    void CurrentY(double y) override { finitos({y}); }
+    void ForeColor(Color) override {}
+    void FontSize(float puntos) override { finitos({puntos}); }
+    void Print(std::string_view) override {}
+
+  protected:
+    void trazarLinea(double x1, double y1, double x2, double y2, Color) override {
+        finitos({x1, y1, x2, y2});
+    }
+    void trazarCaja(double x1, double y1, double x2, double y2, Color) override { finitos({x1, y1, x2, y2}); }
+    void trazarCurva(const Curva& c, Color) override { finitos({c.x, c.y, c.radio, c.ejeX(), c.ejeY()}); }
+};
+
 std::vector<Referencia> enOrden(std::vector<Referencia> lista) {
     std::sort(lista.begin(), lista.end(), [](const Referencia& a, const Referencia& b) {
         return a.clase != b.clase ? a.clase < b.clase : a.indice < b.indice;
@@ -142,6 +162,11 @@ void comprobar(const Sesion& sesion) {
                 if (const auto todo = extensionDe(dibujo, fila.clase, indice)) comprobar(*todo);
             });
         });
+}
+
+void comprobarTrazos(const Sesion& sesion) {
+    Vigia vigia;
+    DibujarTodo(salidaDe(sesion.dibujo, vigia, EscalaSalida), sesion.dibujo);
 }
 
 void comprobarMapa(const Sesion& sesion, double x, double y) {

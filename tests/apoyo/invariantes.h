@@ -11,6 +11,9 @@ namespace bosquel::apoyo {
 /// half-way.
 void comprobar(const Sesion& sesion);
 
+/// Wants finite strokes of all that the drawing sends out.
+void comprobarTrazos(const Sesion& sesion);
+
 /// Wants the session's map to tell of everything, and of a point of the sheet, what one made from scratch
 /// tells.
 void comprobarMapa(const Sesion& sesion, double x, double y);

@@ -104,6 +104,7 @@ void Mono::comprueba() {
     EXPECT_TRUE(sesion.foco || marcoVisible_ || !sesion.RectSel.Visible) << "a frame around nothing";
     marcoVisible_ = sesion.RectSel.Visible;
     comprobar(sesion);
+    if (suerte(20)) comprobarTrazos(sesion);
     for (int i = 0; i < 4; ++i) {
         const Punto punto = lugar();
         comprobarMapa(sesion, punto.x, punto.y);
