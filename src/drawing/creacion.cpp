@@ -5,6 +5,7 @@
 #include "drawing/foco.h"
 #include "drawing/texto_libre.h"
 #include "drawing/vista.h"
+#include "model/numeros.h"
 #include "stairs_symbols/catalogo.h"
 
 #include <algorithm>
@@ -85,7 +86,7 @@ void crearTexto(Sesion& sesion) {
     auto& coleccion = sesion.dibujo.TextoLibre;
     TextoLibre* nuevo = crear(sesion, Clase::TextoLibre, coleccion);
     if (!nuevo) return;
-    nuevo->FontSize = puntosDeTexto * sesion.dibujo.FactorZoomActual;
+    asignar(nuevo->FontSize, puntosDeTexto * sesion.dibujo.FactorZoomActual);
     ajustarATexto(sesion, *nuevo);
     darFoco(sesion, ultimo(Clase::TextoLibre, coleccion));
 }

@@ -1,6 +1,8 @@
 #include "drawing/seleccion.h"
 
+#include "drawing/elementos.h"
 #include "drawing/foco.h"
+#include "drawing/pinza_pared.h"
 #include "model/numeros.h"
 #include "openings/puerta.h"
 #include "openings/ventana.h"
@@ -93,6 +95,9 @@ void EliminarElemento(Sesion& sesion, bool Forzar) {
 
 void EliminarTodos(Sesion& sesion) {
     Dibujo& dibujo = sesion.dibujo;
+    // What is being dragged is told by its index, which another element may have from now on.
+    terminarMovimiento(sesion);
+    asentarObjeto(sesion);
     anunciarTodo(dibujo);
     for (const Clase clase : ordenDeEliminar()) {
         const int contador =

@@ -6,6 +6,7 @@
 #include "surface/primitivas.h"
 
 #include <array>
+#include <cmath>
 #include <concepts>
 
 namespace bosquel {
@@ -61,7 +62,9 @@ class Dibujante {
 
     void dibujar(const TextoLibre& texto) const {
         SuperficieSalida& superficie = salida_.superficie;
-        superficie.FontSize(simple(redondear(texto.FontSize * salida_.EscalaSalida * 100) / 100));
+        const float puntos = simple(redondear(texto.FontSize * salida_.EscalaSalida * 100) / 100);
+        if (std::isnan(puntos)) return;  // larger than any type
+        superficie.FontSize(puntos);
         superficie.CurrentX(salida_.lugar(texto.Left));
         superficie.CurrentY(salida_.lugar(texto.Top));
         superficie.ForeColor(texto.ForeColor);

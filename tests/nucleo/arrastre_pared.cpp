@@ -193,3 +193,29 @@ TEST(Iman, NoActuaDuranteElArrastreSinoAlSoltar) {
     EXPECT_EQ(banco.pared(muro).InicialX, 3000.0F);
     EXPECT_EQ(banco.pared(muro).InicialY, 3050.0F);
 }
+
+TEST(Arrastre, VaciarElDibujoAcabaConElArrastreDeUnMuro) {
+    Banco banco;
+    const int muro = banco.ponMuro();
+    banco.guarda("plano.bqr");
+    banco.mueve(banco.medio(muro));
+    banco.pulsa(banco.medio(muro));
+    banco.mueve(mas(banco.medio(muro), 300, 0));
+    ASSERT_TRUE(banco.pared(muro).EnMovimiento);
+    banco.abre("plano.bqr");
+    EXPECT_TRUE(banco.sesion().paredesEnMovimiento.empty()) << "the wall that has its index now stands still";
+}
+
+TEST(Arrastre, VaciarElDibujoAcabaConElArrastreDeUnMueble) {
+    Banco banco;
+    const int silla = banco.crea(Clase::MblSilla);
+    banco.guarda("plano.bqr");
+    const Situado& elemento = *situado(banco.dibujo(), {Clase::MblSilla, static_cast<std::int16_t>(silla)});
+    const Punto sitio{elemento.Left + 60, elemento.Top + 60};
+    banco.mueve(sitio);
+    banco.pulsa(sitio);
+    banco.mueve(mas(sitio, 300, 0));
+    ASSERT_TRUE(banco.dibujo().ObjetoEnMovimiento);
+    banco.abre("plano.bqr");
+    EXPECT_FALSE(banco.dibujo().ObjetoEnMovimiento) << "the chair that has its index now stands still";
+}

@@ -1,6 +1,7 @@
 #include "apoyo/banco.h"
 #include "stairs_symbols/catalogo.h"
 
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace bosquel::apoyo {
@@ -150,6 +151,13 @@ TEST(Creacion, UnTextoNaceConElTamanoDelZoomYElFoco) {
     EXPECT_FLOAT_EQ(texto->Height, 120);
     EXPECT_EQ(banco.sesion().foco, (Referencia{Clase::TextoLibre, 1}));
     EXPECT_TRUE(banco.marco().Visible);
+}
+
+TEST(Creacion, UnTextoNaceConUnTamanoFinitoAunqueElZoomSeaDesmedido) {
+    Banco banco;
+    banco.dibujo().FactorZoomActual = 1e308;
+    const int indice = banco.crea(Clase::TextoLibre);
+    EXPECT_TRUE(std::isfinite(banco.dibujo().TextoLibre.en(indice)->FontSize));
 }
 
 TEST(Creacion, UnTextoNaceTambienConUnaHerramientaEnLaMano) {

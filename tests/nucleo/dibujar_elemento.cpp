@@ -269,6 +269,16 @@ TEST(DibujarElemento, ElTextoLlevaSuCuerpoADosDecimales) {
     EXPECT_EQ(trazosDe(dibujo, Clase::TextoLibre).at(1), "CurrentX 100");  // half to even
 }
 
+TEST(DibujarElemento, UnTextoMayorQueCualquierCuerpoNoSeDibuja) {
+    Dibujo dibujo;
+    TextoLibre& texto = visible(dibujo.TextoLibre);
+    texto.Text = "x";
+    for (const double desmedido : {1e39, 1e308}) {
+        texto.FontSize = desmedido;
+        EXPECT_EQ(trazosDe(dibujo, Clase::TextoLibre), Trazos{}) << desmedido;
+    }
+}
+
 TEST(DibujarTodo, VaPorClasesYDentroPorIndices) {
     Dibujo dibujo;
     dibujo.FactorZoomActual = 1;
