@@ -114,6 +114,7 @@ void Hoja::soltar(float X, float Y) {
     // The grab ends first: what the release opens may run for long, and other events in the meantime.
     const Agarre agarre = agarre_;
     agarre_ = Agarre::nada;
+    terminarMovimiento(sesion_);
     asentarObjeto(sesion_);
     if (agarre == Agarre::hoja) soltarHoja(sesion_, X, Y);
     if (agarre == Agarre::diana && agarrada_.clase == Clase::Pared)

@@ -196,7 +196,6 @@ void terminarMovimiento(Sesion& sesion) {
 }
 
 void soltarPinzaPared(Sesion& sesion, int indice) {
-    terminarMovimiento(sesion);
     Dibujo& dibujo = sesion.dibujo;
     Pared* pared = dibujo.Pared.en(indice);
     if (!pared || elegirPared(sesion, indice)) return;

@@ -194,6 +194,20 @@ TEST(Iman, NoActuaDuranteElArrastreSinoAlSoltar) {
     EXPECT_EQ(banco.pared(muro).InicialY, 3050.0F);
 }
 
+TEST(Arrastre, AcabaAlSoltarAunqueOtroBotonHayaPulsadoEnOtraParte) {
+    Banco banco;
+    const int muro = banco.ponMuro();
+    const Punto lejos{6000, 9000};
+    banco.mueve(banco.medio(muro));
+    banco.pulsa(banco.medio(muro));
+    banco.mueve(mas(banco.medio(muro), 300, 0));
+    ASSERT_TRUE(banco.pared(muro).EnMovimiento);
+    banco.pulsa(lejos);
+    banco.suelta(lejos);
+    EXPECT_FALSE(banco.pared(muro).EnMovimiento);
+    EXPECT_TRUE(banco.sesion().paredesEnMovimiento.empty());
+}
+
 TEST(Arrastre, VaciarElDibujoAcabaConElArrastreDeUnMuro) {
     Banco banco;
     const int muro = banco.ponMuro();
