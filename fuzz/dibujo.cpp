@@ -1,4 +1,5 @@
 #include "apoyo/dibujo_guardado.h"
+#include "apoyo/plataforma_muda.h"
 #include "carpeta.h"
 #include "drawing/bosquel.h"
 #include "exigir.h"
@@ -32,37 +33,15 @@ constexpr int demasiados = 40'000;
 constexpr int muchos = 2'000;
 
 /// An outside that shows nothing, asks nobody and answers with one file.
-class PlataformaMuda : public Plataforma {
+class PlataformaDeUnFichero : public apoyo::PlataformaMuda {
   public:
     fs::path archivo;
 
     Respuesta mensaje(const Mensaje&) override { return Respuesta::aceptar; }
-    void mostrar(Colores&) override {}
-    void mostrar(ElectricoProp&) override {}
-    void mostrar(Entrada&) override {}
-    void mostrar(EscaleraProp&) override {}
-    void mostrar(ImageCrop&) override {}
-    void mostrar(MesaProp&) override {}
-    void mostrar(MuebleProp&) override {}
-    void mostrar(Opciones&) override {}
-    void mostrar(ParedProp&) override {}
-    void mostrar(PuertaProp&) override {}
-    void mostrar(VentanaProp&) override {}
-    void mostrar(Paralelas&) override {}
     std::optional<fs::path> elegirArchivo(const PeticionArchivo&) override { return archivo; }
-    std::string pedirTexto(const PeticionTexto&) override { return {}; }
     Medida medirTexto(const std::string& texto, double FontSize) override {
         return {FontSize * static_cast<double>(texto.size()), FontSize};
     }
-    void cederEventos(Espera) override {}
-    void activar(Reloj, bool) override {}
-    void ponerCursor(Cursor) override {}
-    void ponerRelojDeArena(bool) override {}
-    void ponerTitulo(const std::string&) override {}
-    void vistaCambiada() override {}
-    void repintar(const ZonaSucia&, const ZonaSucia&) override {}
-    void mostrarAyuda(const fs::path&) override {}
-    void terminar() override {}
 };
 
 int elementosQuePromete(const fs::path& ruta) {
@@ -111,7 +90,7 @@ class Programa {
     }
 
   private:
-    PlataformaMuda plataforma_;
+    PlataformaDeUnFichero plataforma_;
     Bosquel bosquel_;
 };
 
