@@ -38,6 +38,16 @@ T* abertura(Dibujo& dibujo, int indice) {
     return indice > 0 ? (dibujo.*Rasgos<T>::coleccion).en(indice) : nullptr;
 }
 
+/// Calls `paso(abertura)` with the window or door that is meant; not at all for a hole.
+template <class D, class Paso>
+void conAbertura(D& dibujo, Referencia cual, Paso paso) {
+    if (cual.clase == Clase::Ventana) {
+        if (auto* ventana = dibujo.Ventana.en(cual.indice)) paso(*ventana);
+    } else if (auto* puerta = dibujo.Puerta.en(cual.indice)) {
+        paso(*puerta);
+    }
+}
+
 /// The wall of an opening, if it exists and stands on the sheet.
 const Pared* paredTrazada(const Dibujo& dibujo, const Abertura& abertura);
 

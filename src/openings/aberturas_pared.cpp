@@ -35,12 +35,8 @@ void MoverPuertasVentanasPared(Dibujo& dibujo, int pared) {
 }
 
 void ensuciarAberturas(Dibujo& dibujo, std::span<const Referencia> aberturas) {
-    for (const auto& [clase, indice] : aberturas) {
-        if (const auto* ventana = clase == Clase::Ventana ? dibujo.Ventana.en(indice) : nullptr)
-            ensuciar(dibujo, *ventana);
-        if (const auto* puerta = clase == Clase::Puerta ? dibujo.Puerta.en(indice) : nullptr)
-            ensuciar(dibujo, *puerta);
-    }
+    for (const Referencia cual : aberturas)
+        conAbertura(dibujo, cual, [&](const auto& abertura) { ensuciar(dibujo, abertura); });
 }
 
 }  // namespace bosquel

@@ -87,10 +87,7 @@ class Capas {
     }
 
     void anadirAbertura(Referencia cual) {
-        if (const Ventana* ventana = cual.clase == Clase::Ventana ? dibujo_.Ventana.en(cual.indice) : nullptr)
-            anadir(cual.clase, cual.indice, *ventana);
-        if (const Puerta* puerta = cual.clase == Clase::Puerta ? dibujo_.Puerta.en(cual.indice) : nullptr)
-            anadir(cual.clase, cual.indice, *puerta);
+        conAbertura(dibujo_, cual, [&](const auto& abertura) { anadir(cual.clase, cual.indice, abertura); });
     }
 
     void pintar() {

@@ -15,7 +15,8 @@ Color colorDe(const QColor& color);
 
 /// A surface on a painter whose units are device pixels: strokes are one of them wide, whatever the density.
 /// Unless the painter smooths, a position is the pixel whose middle comes nearest, of curves as of lines. A
-/// curve too great or too far away for a painter is left out.
+/// curve too great or too far away for a painter is left out. As long as it is drawn on, nobody else may
+/// change the painter's pen.
 class SuperficieQt final : public SuperficieSalida {
   public:
     /// `escala` device pixels to a surface unit; the surface's origin falls on `origen`.
