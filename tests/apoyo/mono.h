@@ -9,6 +9,7 @@
 #include <vector>
 
 namespace bosquel {
+class AberturaProp;
 class AnguloGiro;
 }
 
@@ -82,7 +83,7 @@ class Mono {
     void gira(AnguloGiro& angulo);
     void enPared(ParedProp& dialogo);
     void enParalelas(Paralelas& dialogo);
-    void enVentana(VentanaProp& dialogo);
+    void enAbertura(AberturaProp& dialogo);
     void enPuerta(PuertaProp& dialogo);
     void enMueble(MuebleProp& dialogo);
     void enMesa(MesaProp& dialogo);

@@ -31,7 +31,7 @@ void Mono::pon() {
     p.alCederEventos = [this] { cede(); };
     p.alAbrirPared = [this](ParedProp& dialogo) { enPared(dialogo); };
     p.alAbrirParalelas = [this](Paralelas& dialogo) { enParalelas(dialogo); };
-    p.alAbrirVentana = [this](VentanaProp& dialogo) { enVentana(dialogo); };
+    p.alAbrirVentana = [this](VentanaProp& dialogo) { enAbertura(dialogo); };
     p.alAbrirPuerta = [this](PuertaProp& dialogo) { enPuerta(dialogo); };
     p.alAbrirMueble = [this](MuebleProp& dialogo) { enMueble(dialogo); };
     p.alAbrirMesa = [this](MesaProp& dialogo) { enMesa(dialogo); };
@@ -91,7 +91,7 @@ void Mono::enParalelas(Paralelas& dialogo) {
     if (suerte(porCientoAplica)) dialogo.Aplicar();
 }
 
-void Mono::enVentana(VentanaProp& dialogo) {
+void Mono::enAbertura(AberturaProp& dialogo) {
     if (suerte(50)) dialogo.elegirAlineacion(azar_.entre(0, 1));
     const auto boton = una(AberturaProp::botones);
     if (dialogo.habilitado(boton)) dialogo.elegir(boton);
@@ -102,15 +102,9 @@ void Mono::enVentana(VentanaProp& dialogo) {
 }
 
 void Mono::enPuerta(PuertaProp& dialogo) {
-    if (suerte(50)) dialogo.elegirAlineacion(azar_.entre(0, 1));
     if (suerte(50)) dialogo.elegirHojas(azar_.entre(0, 1));
     if (dialogo.fmeLadoHabilitado() && suerte(50)) dialogo.elegirExtremo(azar_.entre(0, 1));
-    const auto boton = una(AberturaProp::botones);
-    if (dialogo.habilitado(boton)) dialogo.elegir(boton);
-    escribe(dialogo.txtLongitud);
-    if (dialogo.distanciaHabilitada()) escribe(dialogo.TxtDistancia);
-    dialogo.Check1 = suerte(20);
-    if (suerte(porCientoAplica)) dialogo.Aplicar();
+    enAbertura(dialogo);
 }
 
 void Mono::enMueble(MuebleProp& dialogo) {
