@@ -100,12 +100,12 @@ void paso(benchmark::State& estado) {
     mover(estado, puesto.ventana(), puesto.lugar(cerca, cerca));
 }
 
-/// The strokes of the whole drawing, kept in pixels.
-struct TrazosDelDibujo : Trazos {
-    TrazosDelDibujo(const Dibujo& dibujo, double escala) : Trazos(escala) {
-        DibujarTodo(salidaDe(dibujo, *this, 1), dibujo);
-    }
-};
+/// The strokes of the whole drawing, worked out in pixels.
+Trazos trazosDe(const Dibujo& dibujo, double escala) {
+    Calcadora calcadora;
+    DibujarTodo(salidaDe(dibujo, calcadora, 1), dibujo);
+    return {calcadora.calco(), escala};
+}
 
 void repintado(benchmark::State& estado) {
     Puesto puesto(static_cast<int>(estado.range(0)));
@@ -118,7 +118,7 @@ void repintado(benchmark::State& estado) {
 
 void sueloRepintado(benchmark::State& estado) {
     Puesto puesto(static_cast<int>(estado.range(0)));
-    const TrazosDelDibujo trazos(puesto.dibujo(), 1.0 / unidadesPorPixel);
+    const Trazos trazos = trazosDe(puesto.dibujo(), 1.0 / unidadesPorPixel);
     QPixmap lienzo(vista);
     for (auto _ : estado) {
         QPainter pintor(&lienzo);
@@ -138,8 +138,8 @@ void salida(benchmark::State& estado) {
 
 void sueloSalida(benchmark::State& estado) {
     Puesto puesto(static_cast<int>(estado.range(0)));
-    const TrazosDelDibujo trazos(puesto.dibujo(),
-                                 static_cast<double>(ladoSalida) / static_cast<double>(ladoHoja));
+    const Trazos trazos =
+        trazosDe(puesto.dibujo(), static_cast<double>(ladoSalida) / static_cast<double>(ladoHoja));
     for (auto _ : estado) {
         QImage lienzo(ladoSalida, ladoSalida, QImage::Format_RGB32);
         lienzo.fill(Qt::white);

@@ -8,52 +8,47 @@
 
 namespace bosquel::bench {
 
-namespace {
-
-QRect entre(QPoint una, QPoint otra) {
-    return {QPoint(std::min(una.x(), otra.x()), std::min(una.y(), otra.y())),
-            QPoint(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()))};
+Trazos::Trazos(const Calco& calco, double escala) : escala_(escala), cuantos_(calco.trazos.size()) {
+    for (const Calco::Trazo& trazo : calco.trazos)
+        std::visit([&](const auto& forma) { anadir(forma, trazo); }, trazo.forma);
 }
-
-}  // namespace
 
 int Trazos::pixel(double unidades) const {
     return static_cast<int>(std::lround(unidades * escala_));
 }
 
 Trazos::Tanda& Trazos::tanda(Color color) {
-    ++cuantos_;
     auto* ultima = pasos_.empty() ? nullptr : std::get_if<Tanda>(&pasos_.back());
     if (ultima && ultima->color == color) return *ultima;
     pasos_.push_back(Tanda{color, {}, {}, {}});
     return std::get<Tanda>(pasos_.back());
 }
 
-void Trazos::trazarLinea(double x1, double y1, double x2, double y2, Color color) {
-    const QPoint desde(pixel(x1), pixel(y1));
-    const QPoint hasta(pixel(x2), pixel(y2));
-    Tanda& suya = tanda(color);
+void Trazos::anadir(const Calco::Recta& recta, const Calco::Trazo& trazo) {
+    const QPoint desde(pixel(recta.x1), pixel(recta.y1));
+    const QPoint hasta(pixel(recta.x2), pixel(recta.y2));
+    Tanda& suya = tanda(trazo.color);
     if (desde.x() == hasta.x() || desde.y() == hasta.y())
         suya.rectas.push_back(entre(desde, hasta));
     else
         suya.oblicuas.emplace_back(desde, hasta);
 }
 
-void Trazos::trazarCaja(double x1, double y1, double x2, double y2, Color color) {
-    const QRect caja = entre({pixel(x1), pixel(y1)}, {pixel(x2), pixel(y2)});
-    if (relleno_ == Relleno::solido) {
-        ++cuantos_;
-        pasos_.push_back(Mancha{caja, colorRelleno_, color});
+void Trazos::anadir(const Calco::Caja& esquinas, const Calco::Trazo& trazo) {
+    const QRect caja =
+        entre({pixel(esquinas.x1), pixel(esquinas.y1)}, {pixel(esquinas.x2), pixel(esquinas.y2)});
+    if (trazo.fondo) {
+        pasos_.push_back(Mancha{caja, *trazo.fondo, trazo.color});
         return;
     }
-    Tanda& suya = tanda(color);
+    Tanda& suya = tanda(trazo.color);
     for (const QRect& lado :
          {QRect(caja.topLeft(), caja.topRight()), QRect(caja.bottomLeft(), caja.bottomRight()),
           QRect(caja.topLeft(), caja.bottomLeft()), QRect(caja.topRight(), caja.bottomRight())})
         suya.rectas.push_back(lado);
 }
 
-void Trazos::trazarCurva(const Curva& curva, Color color) {
+void Trazos::anadir(const Curva& curva, const Calco::Trazo& trazo) {
     const double inicio = curva.arco ? curva.arco->inicio : 0;
     double abertura = curva.arco ? curva.arco->fin - curva.arco->inicio : 2 * M_PI;
     if (abertura <= 0) abertura += 2 * M_PI;
@@ -67,7 +62,7 @@ void Trazos::trazarCurva(const Curva& curva, Color color) {
         linea << QPoint(static_cast<int>(std::lround(curva.x * escala_ + ejeX * std::cos(t))),
                         static_cast<int>(std::lround(curva.y * escala_ - ejeY * std::sin(t))));
     }
-    tanda(color).curvas.push_back(linea);
+    tanda(trazo.color).curvas.push_back(linea);
 }
 
 void Trazos::pintar(QPainter& pintor) const {

@@ -35,12 +35,6 @@ QPen lapiz(Color color) {
     return {colorQt(color), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
-/// The pixels between two corners, both included.
-QRect entre(QPoint una, QPoint otra) {
-    return {QPoint(std::min(una.x(), otra.x()), std::min(una.y(), otra.y())),
-            QPoint(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()))};
-}
-
 bool cerca(QPointF punto) {
     return std::abs(punto.x()) <= lejos && std::abs(punto.y()) <= lejos;
 }
@@ -87,6 +81,11 @@ std::optional<QLine> recortar(QPointF desde, QPointF hasta) {
                        acotar(desde.y(), paso.y(), inicio, fin) && acotar(-desde.y(), -paso.y(), inicio, fin);
     if (!queda) return std::nullopt;
     return QLine(enteros(desde + inicio * paso), enteros(desde + fin * paso));
+}
+
+QRect entre(QPoint una, QPoint otra) {
+    return {QPoint(std::min(una.x(), otra.x()), std::min(una.y(), otra.y())),
+            QPoint(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()))};
 }
 
 /// A painter takes long over a change of pen, and most strokes have the colour of the one before.

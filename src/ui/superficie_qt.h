@@ -5,6 +5,7 @@
 #include <QFont>
 #include <QLine>
 #include <QPainter>
+#include <QRect>
 #include <optional>
 
 namespace bosquel {
@@ -67,6 +68,9 @@ QFont fuenteTexto(double puntos, double escala);
 /// The same type on a picture that is not smoothed: nothing of its letters is left to the settings of the
 /// screen.
 QFont sinSuavizar(QFont letra);
+
+/// The pixels between two corners, both included.
+QRect entre(QPoint una, QPoint otra);
 
 /// The part of a line that lies near the paper, in whole pixels; nothing if none does. A painter takes ints,
 /// and a drawing may reach far beyond them.
