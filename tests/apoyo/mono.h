@@ -11,7 +11,7 @@
 namespace bosquel {
 class AberturaProp;
 class AnguloGiro;
-}
+}  // namespace bosquel
 
 namespace bosquel::apoyo {
 
