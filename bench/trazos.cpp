@@ -1,12 +1,22 @@
 #include "trazos.h"
 
-#include "ui/superficie_qt.h"
+#include "ui/color_qt.h"
 
 #include <QtMath>
 #include <algorithm>
 #include <cmath>
 
 namespace bosquel::bench {
+
+namespace {
+
+/// The pixels between two corners, both included.
+QRect entre(QPoint una, QPoint otra) {
+    return {QPoint(std::min(una.x(), otra.x()), std::min(una.y(), otra.y())),
+            QPoint(std::max(una.x(), otra.x()), std::max(una.y(), otra.y()))};
+}
+
+}  // namespace
 
 Trazos::Trazos(const Calco& calco, double escala) : escala_(escala), cuantos_(calco.trazos.size()) {
     for (const Calco::Trazo& trazo : calco.trazos)

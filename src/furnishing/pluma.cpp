@@ -26,7 +26,7 @@ double Pluma::medida(const Cota& cota, Redondeo redondeo, double propia) const {
     double total = 0;
     if (redondeo == Redondeo::entero) {
         for (const std::int16_t termino : cota.mm)
-            total += salida_.kEntero(termino);
+            if (termino != 0) total += salida_.kEntero(termino);
     } else {
         double milimetros = cota.parte == 0 ? 0 : cota.parte * propia;
         for (const std::int16_t termino : cota.mm)

@@ -2,7 +2,7 @@
 
 #include "openings/abertura_prop.h"
 #include "ui/rotulos.h"
-#include "ui/superficie_qt.h"
+#include "ui/superficie_imagen.h"
 
 #include <QButtonGroup>
 #include <QPainter>
@@ -92,18 +92,20 @@ void CroquisAbertura::mostrar() {
     update();
 }
 
+QImage CroquisAbertura::imagen() const {
+    const double densidad = devicePixelRatioF();
+    QImage imagen = papelPara(*this);
+    SuperficieImagen superficie(imagen, densidad / unidadesDelCroquis, SuperficieImagen::Letras::enteras,
+                                enPixeles(0, 0) * densidad);
+    logica_.trazarCroquis(superficie);
+    return imagen;
+}
+
 void CroquisAbertura::paintEvent(QPaintEvent*) {
     QPainter pintor(this);
+    pintor.drawImage(rect(), imagen());
     pintor.setPen(palette().color(QPalette::Mid));
-    pintor.setBrush(Qt::white);
     pintor.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-    const double densidad = devicePixelRatioF();
-    pintor.scale(1 / densidad, 1 / densidad);
-    const double escala = densidad / unidadesDelCroquis;
-    const QPointF centro = QPointF(lado, lado) / 2.0 * densidad;
-    SuperficieQt superficie(pintor, escala,
-                            centro - QPointF(AberturaProp::centroX, AberturaProp::centroY) * escala);
-    logica_.trazarCroquis(superficie);
 }
 
 }  // namespace bosquel

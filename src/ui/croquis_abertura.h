@@ -38,6 +38,7 @@ class CroquisAbertura final : public QWidget {
     void paintEvent(QPaintEvent* suceso) override;
 
   private:
+    QImage imagen() const;
     QRadioButton* ponerBoton(std::size_t indice, const char* rotulo, QButtonGroup* grupo);
 
     AberturaProp& logica_;

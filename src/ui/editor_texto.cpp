@@ -1,6 +1,7 @@
 #include "ui/editor_texto.h"
 
-#include "ui/superficie_qt.h"
+#include "ui/color_qt.h"
+#include "ui/letra.h"
 #include "ui/textos.h"
 #include "ui/unidades.h"
 

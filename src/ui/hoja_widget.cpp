@@ -14,8 +14,10 @@ namespace bosquel {
 
 namespace {
 
-/// More rectangles than these are painted as the one that holds them all.
+/// More rectangles than these are painted as the one that holds them all, and so are those that leave little
+/// of it free: that it is so many times as large as they are.
 constexpr std::size_t muchas = 12;
+constexpr std::int64_t desperdicio = 2;
 
 /// Pixels around a stroke's box: its width, and the rounding to device pixels.
 constexpr int margen = 2;
@@ -28,6 +30,17 @@ struct Lado {
 Lado lado(int lugar, int tamano, int visor) {
     if (tamano <= QWIDGETSIZE_MAX) return {lugar, std::max(tamano, 0), 0};
     return {0, visor, -lugar};
+}
+
+/// The logical pixels of the sheet that a stroke in this box may touch.
+QRect logica(const Recuadro& zona) {
+    const QPoint desde(aPixeles(zona.Left), aPixeles(zona.Top));
+    const QPoint hasta(aPixeles(zona.Left + zona.Width), aPixeles(zona.Top + zona.Height));
+    return QRect(desde, hasta).adjusted(-margen, -margen, margen, margen);
+}
+
+std::int64_t area(const QRect& rect) {
+    return static_cast<std::int64_t>(rect.width()) * rect.height();
 }
 
 /// Whole device pixels that cover a rectangle of logical ones.
@@ -65,13 +78,18 @@ QRect HojaWidget::aLaVista() const {
 
 QRegion HojaWidget::region(const std::vector<Recuadro>& zonas) const {
     const QRect vista = aLaVista();
-    QRegion total;
+    QRect todas;
+    std::int64_t suArea = 0;
     for (const Recuadro& zona : zonas) {
-        const QPoint desde(aPixeles(zona.Left), aPixeles(zona.Top));
-        const QPoint hasta(aPixeles(zona.Left + zona.Width), aPixeles(zona.Top + zona.Height));
-        total |= QRect(desde, hasta).adjusted(-margen, -margen, margen, margen) & vista;
+        const QRect una = logica(zona) & vista;
+        todas |= una;
+        suArea += area(una);
     }
-    return zonas.size() > muchas ? QRegion(total.boundingRect()) : total;
+    if (zonas.size() > muchas || area(todas) <= desperdicio * suArea) return todas;
+    QRegion total;
+    for (const Recuadro& zona : zonas)
+        total |= logica(zona) & vista;
+    return total;
 }
 
 void HojaWidget::ensuciar(const ZonaSucia& zona, const ZonaSucia& paso) {
@@ -92,52 +110,58 @@ void HojaWidget::ponerCursor(Cursor rol) {
     setCursor(bosquel::cursor(rol, devicePixelRatioF()));
 }
 
-void HojaWidget::pintarFondo(const QRect& zona) {
-    const double escala = fondo_.devicePixelRatio();
-    const QPoint esquina = (QPointF(vista_.topLeft()) * escala).toPoint();
-    const QRect pixeles = enPixeles(zona, escala);
-    fondo_.setDevicePixelRatio(1);
-    QPainter pintor(&fondo_);
-    pintor.translate(-esquina);
-    pintor.setClipRect(pixeles);
-    pintarQuieto(pintor, bosquel_.sesion(), pixeles, escala / unidadesPorPixel);
-    pintor.end();
-    fondo_.setDevicePixelRatio(escala);
+LugarHoja HojaWidget::lugarDe(const QRect& pixeles) const {
+    return {pixeles.topLeft(), densidad_ / unidadesPorPixel};
 }
 
 void HojaWidget::actualizarFondo() {
     const QRect vista = aLaVista();
-    if (vista != vista_ || fondo_.devicePixelRatio() != devicePixelRatioF()) {
-        const QSizeF tamano = QSizeF(vista.size()) * devicePixelRatioF();
-        fondo_ = QPixmap(static_cast<int>(std::ceil(tamano.width())),
-                         static_cast<int>(std::ceil(tamano.height())));
-        fondo_.setDevicePixelRatio(devicePixelRatioF());
+    if (vista != vista_ || densidad_ != devicePixelRatioF()) {
+        densidad_ = devicePixelRatioF();
         vista_ = vista;
         pendiente_ = vista;
+        pixeles_ = enPixeles(vista, densidad_);
+        fondo_ = QImage(pixeles_.size(), QImage::Format_RGB32);
     }
-    if (fondo_.isNull()) return;
+    if (pendiente_.isEmpty() || fondo_.isNull()) return;
     for (const QRect& zona : pendiente_& vista_)
-        pintarFondo(zona);
+        pintarQuieto(fondo_, lugarDe(pixeles_), bosquel_.sesion(), enPixeles(zona, densidad_));
     pendiente_ = QRegion();
+}
+
+/// The part of `fondo_` that shows these device pixels of the sheet, without a copy of its own.
+QImage HojaWidget::enFondo(const QRect& pixeles) const {
+    const QPoint primero = pixeles.topLeft() - pixeles_.topLeft();
+    const uchar* fila = fondo_.constScanLine(primero.y());
+    return {fila + primero.x() * static_cast<int>(sizeof(QRgb)), pixeles.width(), pixeles.height(),
+            fondo_.bytesPerLine(), fondo_.format()};
+}
+
+/// What a part of the sheet looks like. Only who asks for a picture of the whole sheet gets more than what is
+/// on view.
+QImage HojaWidget::imagenDe(const QRect& pixeles) const {
+    const Sesion& sesion = bosquel_.sesion();
+    QImage imagen;
+    if (pixeles_.contains(pixeles)) {
+        imagen = enFondo(pixeles);
+    } else {
+        imagen = QImage(pixeles.size(), QImage::Format_RGB32);
+        pintarQuieto(imagen, lugarDe(pixeles), sesion, pixeles);
+    }
+    if (hayMovimiento(sesion)) pintarEnMovimiento(imagen, lugarDe(pixeles), sesion);
+    return imagen;
 }
 
 void HojaWidget::paintEvent(QPaintEvent* evento) {
     actualizarFondo();
-    const double escala = devicePixelRatioF();
     QPainter pintor(this);
-    pintor.setClipRegion(evento->region());
     pintor.translate(-origen_);
-    pintor.drawPixmap(vista_.topLeft(), fondo_);
-    pintor.scale(1 / escala, 1 / escala);
-    // Only who asks for a picture of the whole sheet gets here with more than what is on view.
-    for (const QRect& zona : evento->region().translated(origen_) - vista_) {
-        const QRect pixeles = enPixeles(zona, escala);
-        pintor.save();
-        pintor.setClipRect(pixeles, Qt::IntersectClip);
-        pintarQuieto(pintor, bosquel_.sesion(), pixeles, escala / unidadesPorPixel);
-        pintor.restore();
+    pintor.scale(1 / densidad_, 1 / densidad_);
+    for (const QRect& zona : evento->region().translated(origen_)) {
+        const QRect pixeles = enPixeles(zona, densidad_);
+        pintor.drawImage(pixeles.topLeft(), imagenDe(pixeles));
     }
-    pintarEnMovimiento(pintor, bosquel_.sesion(), escala / unidadesPorPixel);
+    pintarGuias(pintor, bosquel_.sesion(), densidad_ / unidadesPorPixel);
 }
 
 QPointF HojaWidget::enHoja(const QMouseEvent& evento) const {

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "drawing/bosquel.h"
+#include "ui/pintura_hoja.h"
 
-#include <QPixmap>
+#include <QImage>
 #include <QRegion>
 #include <QWidget>
 
@@ -36,16 +37,21 @@ class HojaWidget final : public QWidget {
   private:
     /// The part of the sheet in the viewport, in logical pixels of the sheet.
     QRect aLaVista() const;
+    /// Of a picture that shows these device pixels of the sheet.
+    LugarHoja lugarDe(const QRect& pixeles) const;
     void actualizarFondo();
-    void pintarFondo(const QRect& zona);
+    QImage enFondo(const QRect& pixeles) const;
+    QImage imagenDe(const QRect& pixeles) const;
     /// The pointer in sheet units.
     QPointF enHoja(const QMouseEvent& evento) const;
     QRegion region(const std::vector<Recuadro>& zonas) const;
 
     Bosquel& bosquel_;
-    QPoint origen_;      ///< the widget's corner on the sheet: not 0 only for sheets larger than any widget
-    QPixmap fondo_;      ///< what stands still
-    QRect vista_;        ///< the part of the sheet that `fondo_` shows
+    QPoint origen_;  ///< the widget's corner on the sheet: not 0 only for sheets larger than any widget
+    QImage fondo_;   ///< what stands still
+    QRect vista_;    ///< the part of the sheet that `fondo_` shows
+    QRect pixeles_;  ///< and its device pixels
+    double densidad_ = 1;
     QRegion pendiente_;  ///< what of it is no longer true
     EditorTexto* editor_;
     Cursor cursor_ = Cursor::Flecha;

@@ -1,7 +1,7 @@
 #include "ui/lienzo_qt.h"
 
 #include "output/escala.h"
-#include "ui/superficie_qt.h"
+#include "ui/superficie_imagen.h"
 #include "ui/vista_previa.h"
 
 #include <QApplication>
@@ -91,9 +91,7 @@ TamanoSalida LienzoQt::pintarHoja(TamanoSalida tamano,
                                   const std::function<void(SuperficieSalida&)>& dibujar) {
     HojaSalida_ = papelPara(tamano, copiasDeLaHoja);
     if (!HojaSalida_.isNull()) {
-        QPainter pintor(&HojaSalida_);
-        pintor.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing, false);
-        SuperficieQt superficie(pintor, 1 / twipsPorPixel, {});
+        SuperficieImagen superficie(HojaSalida_, 1 / twipsPorPixel, SuperficieImagen::Letras::enteras);
         dibujar(superficie);
     }
     return {HojaSalida_.width(), HojaSalida_.height()};

@@ -2,7 +2,7 @@
 
 #include "furnishing/dibujar_elemento.h"
 #include "furnishing/recuadro.h"
-#include "ui/superficie_qt.h"
+#include "ui/superficie_imagen.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -51,17 +51,23 @@ void MarcoPrevio::mostrar(const Electrico& electrico, double FactorZoomActual) {
     poner(dibujo_.Electrico.crear(1), electrico);
 }
 
+QImage MarcoPrevio::imagen() const {
+    const double densidad = devicePixelRatioF();
+    QImage imagen = papelPara(*this);
+    if (alcance_ > 0) {
+        const double escala = (std::min(width(), height()) / 2.0 - aire) / alcance_ * densidad;
+        SuperficieImagen superficie(imagen, escala, SuperficieImagen::Letras::enteras,
+                                    QRectF(rect()).center() * densidad);
+        DibujarElemento(salidaDe(dibujo_, superficie, 1), dibujo_, clase_, 1);
+    }
+    return imagen;
+}
+
 void MarcoPrevio::paintEvent(QPaintEvent*) {
     QPainter pintor(this);
+    pintor.drawImage(rect(), imagen());
     pintor.setPen(palette().color(QPalette::Mid));
-    pintor.setBrush(Qt::white);
     pintor.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-    if (alcance_ == 0) return;
-    const double densidad = devicePixelRatioF();
-    pintor.scale(1 / densidad, 1 / densidad);
-    const double escala = (std::min(width(), height()) / 2.0 - aire) / alcance_ * densidad;
-    SuperficieQt superficie(pintor, escala, QRectF(rect()).center() * densidad);
-    DibujarElemento(salidaDe(dibujo_, superficie, 1), dibujo_, clase_, 1);
 }
 
 }  // namespace bosquel

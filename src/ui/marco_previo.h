@@ -2,6 +2,7 @@
 
 #include "model/dibujo.h"
 
+#include <QImage>
 #include <QWidget>
 
 namespace bosquel {
@@ -21,6 +22,7 @@ class MarcoPrevio final : public QWidget {
     void paintEvent(QPaintEvent* suceso) override;
 
   private:
+    QImage imagen() const;
     template <class T>
     void poner(T& propio, const T& elemento);
 

@@ -3,7 +3,8 @@
 #include "furnishing/dibujar_elemento.h"
 #include "openings/abertura.h"
 #include "openings/trazar_abertura.h"
-#include "ui/superficie_qt.h"
+#include "ui/color_qt.h"
+#include "ui/superficie_imagen.h"
 #include "walls/pared.h"
 #include "walls/trazar_pared.h"
 
@@ -15,8 +16,8 @@ namespace bosquel {
 
 namespace {
 
-const QColor bordePinza(64, 64, 64);
-const QColor colorVector(64, 64, 64);
+constexpr Color bordePinza = 0x404040;
+constexpr Color colorVector = 0x404040;
 
 Recuadro aUnidadesDeHoja(const QRect& zona, double escala) {
     return {zona.x() / escala, zona.y() / escala, zona.width() / escala, zona.height() / escala};
@@ -31,34 +32,33 @@ void porLineas(double desde, double hasta, double fin, std::int32_t paso, double
 }
 
 /// The grid runs from the sheet's corner to where the sheet ended when it was drawn.
-void pintarCuadricula(QPainter& pintor, const CuadriculaDibujada& cuadricula, const QRect& zona,
+void pintarCuadricula(Trama& trama, const CuadriculaDibujada& cuadricula, const Recuadro& visible,
                       double escala) {
     if (cuadricula.paso <= 0) return;
-    const Recuadro visible = aUnidadesDeHoja(zona, escala);
-    const QRect alcance = zona & QRect(0, 0, zona.right() + 1, zona.bottom() + 1);
     const double derecha = std::min(cuadricula.ancho, visible.Left + visible.Width);
     const double abajo = std::min(cuadricula.alto, visible.Top + visible.Height);
-    const int x2 = static_cast<int>(std::lround(derecha * escala));
-    const int y2 = static_cast<int>(std::lround(abajo * escala));
-    const QColor color = colorQt(colorCuadricula);
-    if (cuadricula.paso * escala < 1) {
-        pintor.fillRect(QRect(alcance.topLeft(), QPoint(x2, y2)), color);
-        return;
-    }
-    pintor.setPen(color);
+    const int x2 = pixelEntero(derecha * escala);
+    const int y2 = pixelEntero(abajo * escala);
+    const Trama::Pixel tinta = Trama::pixel(colorCuadricula);
+    if (cuadricula.paso * escala < 1) return trama.rellenar({0, 0, x2, y2}, tinta);
     porLineas(visible.Top, visible.Top + visible.Height, cuadricula.alto, cuadricula.paso, escala,
-              [&](int y) { pintor.drawLine(alcance.left(), y, x2, y); });
+              [&](int y) {
+                  trama.rellenar({0, y, x2, y}, tinta);
+              });
     porLineas(visible.Left, visible.Left + visible.Width, cuadricula.ancho, cuadricula.paso, escala,
-              [&](int x) { pintor.drawLine(x, alcance.top(), x, y2); });
+              [&](int x) {
+                  trama.rellenar({x, 0, x, y2}, tinta);
+              });
 }
 
-void pintarPinza(QPainter& pintor, const Pinza& pinza, double escala) {
-    const QPoint esquina(static_cast<int>(std::lround(pinza.Left * escala)),
-                         static_cast<int>(std::lround(pinza.Top * escala)));
-    const int lado = std::max(3, static_cast<int>(std::lround(pinza.Lado * escala)));
-    const QRect entera(esquina, QSize(lado, lado));
-    pintor.fillRect(entera, bordePinza);
-    pintor.fillRect(entera.adjusted(1, 1, -1, -1), colorQt(pinza.BackColor));
+void pintarPinza(Trama& trama, const Pinza& pinza, double escala) {
+    const int x = pixelEntero(pinza.Left * escala);
+    const int y = pixelEntero(pinza.Top * escala);
+    const int lado = std::max(3, pixelEntero(pinza.Lado * escala));
+    const ZonaPixeles entera{x, y, x + lado - 1, y + lado - 1};
+    trama.rellenar(entera, Trama::pixel(bordePinza));
+    trama.rellenar({entera.x1 + 1, entera.y1 + 1, entera.x2 - 1, entera.y2 - 1},
+                   Trama::pixel(pinza.BackColor));
 }
 
 bool enMovimiento(const Dibujo&, const Pared& pared) {
@@ -68,12 +68,8 @@ bool enMovimiento(const Dibujo&, const Pared& pared) {
 /// What is painted one over the other, from the back to the front.
 class Capas {
   public:
-    Capas(QPainter& pintor, const Dibujo& dibujo, double escala)
-        : pintor_(pintor),
-          dibujo_(dibujo),
-          escala_(escala),
-          superficie_(pintor, escala, {}),
-          salida_(salidaDe(dibujo, superficie_, 1)) {}
+    Capas(SuperficieImagen& superficie, const Dibujo& dibujo)
+        : dibujo_(dibujo), superficie_(superficie), salida_(salidaDe(dibujo, superficie_, 1)) {}
 
     template <class T>
     void anadir(Clase clase, int indice, const T& conPinzas) {
@@ -95,7 +91,7 @@ class Capas {
                          [](const Pieza& a, const Pieza& b) { return a.altura < b.altura; });
         for (const Pieza& pieza : piezas_)
             if (pieza.pinza)
-                pintarPinza(pintor_, *pieza.pinza, escala_);
+                pintarPinza(superficie_.trama(), *pieza.pinza, superficie_.escala());
             else
                 pintarElemento(pieza.altura.clase, pieza.altura.indice);
     }
@@ -134,10 +130,8 @@ class Capas {
         return resaltado ? std::optional(rojo) : std::nullopt;
     }
 
-    QPainter& pintor_;
     const Dibujo& dibujo_;
-    double escala_;
-    SuperficieQt superficie_;
+    SuperficieImagen& superficie_;
     Salida salida_;
     std::vector<Pieza> piezas_;
 };
@@ -156,33 +150,39 @@ Recuadro conVecinos(const Recuadro& zona, double escala) {
     return {zona.Left - 1 / escala, zona.Top - 1 / escala, zona.Width + 2 / escala, zona.Height + 2 / escala};
 }
 
+/// The line, or a rectangle with these opposite corners, as far as it can be painted.
+std::optional<QLine> enPixeles(double x1, double y1, double x2, double y2, double escala) {
+    const auto tramo = recortar({x1 * escala, y1 * escala}, {x2 * escala, y2 * escala});
+    return tramo ? std::optional(QLine(tramo->x1, tramo->y1, tramo->x2, tramo->y2)) : std::nullopt;
+}
+
 void pintarMarco(QPainter& pintor, const MarcoDeSeleccion& marco, double escala) {
     if (!marco.Visible) return;
     const Recuadro& zona = marco.recuadro;
-    const auto esquina = recortar(QPointF(zona.Left, zona.Top) * escala,
-                                  QPointF(zona.Left + zona.Width, zona.Top + zona.Height) * escala);
-    if (!esquina) return;
+    const auto esquinas =
+        enPixeles(zona.Left, zona.Top, zona.Left + zona.Width, zona.Top + zona.Height, escala);
+    if (!esquinas) return;
     pintor.setPen(QPen(colorQt(rojo), 1, Qt::DotLine));
     pintor.setBrush(Qt::NoBrush);
-    pintor.drawRect(QRect(esquina->p1(), QSize(esquina->dx(), esquina->dy())));
+    pintor.drawRect(QRect(esquinas->p1(), QSize(esquinas->dx(), esquinas->dy())));
 }
 
 void pintarVector(QPainter& pintor, const Segmento& vector, double escala) {
     if (!vector.Visible) return;
-    const auto linea =
-        recortar(QPointF(vector.X1, vector.Y1) * escala, QPointF(vector.X2, vector.Y2) * escala);
-    pintor.setPen(QPen(colorVector, 1, Qt::DotLine));
+    const auto linea = enPixeles(vector.X1, vector.Y1, vector.X2, vector.Y2, escala);
+    pintor.setPen(QPen(colorQt(colorVector), 1, Qt::DotLine));
     if (linea) pintor.drawLine(*linea);
 }
 
 }  // namespace
 
-void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, double escala) {
-    pintor.fillRect(zona, colorQt(blanco));
-    pintarCuadricula(pintor, sesion.cuadricula, zona, escala);
-    const Recuadro visible = aUnidadesDeHoja(zona, escala);
+void pintarQuieto(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion, const QRect& zona) {
+    const Recuadro visible = aUnidadesDeHoja(zona, lugar.escala);
+    SuperficieImagen superficie(imagen, lugar.escala, SuperficieImagen::Letras::suaves, lugar.esquina, zona);
+    superficie.trama().rellenar(superficie.trama().zona(), Trama::pixel(blanco));
+    pintarCuadricula(superficie.trama(), sesion.cuadricula, visible, lugar.escala);
     const Dibujo& dibujo = sesion.dibujo;
-    Capas capas(pintor, dibujo, escala);
+    Capas capas(superficie, dibujo);
     const auto anadir = [&](Clase clase, const auto& coleccion) {
         coleccion.recorrer([&](int indice, const auto& elemento) {
             const auto extension = enMovimiento(dibujo, elemento) ? std::nullopt : contorno(elemento);
@@ -192,14 +192,20 @@ void pintarQuieto(QPainter& pintor, const Sesion& sesion, const QRect& zona, dou
     anadir(Clase::Pared, dibujo.Pared);
     anadir(Clase::Ventana, dibujo.Ventana);
     anadir(Clase::Puerta, dibujo.Puerta);
-    for (const Referencia cual : sesion.mapa.enZona(conVecinos(visible, escala)))
+    for (const Referencia cual : sesion.mapa.enZona(conVecinos(visible, lugar.escala)))
         if (!aparte(sesion, cual)) capas.anadir(cual);
     capas.pintar();
 }
 
-void pintarEnMovimiento(QPainter& pintor, const Sesion& sesion, double escala) {
+bool hayMovimiento(const Sesion& sesion) {
+    return !sesion.paredesEnMovimiento.empty() || sesion.dibujo.ObjetoEnMovimiento;
+}
+
+void pintarEnMovimiento(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion) {
     const Dibujo& dibujo = sesion.dibujo;
-    Capas capas(pintor, dibujo, escala);
+    const QRect zona = imagen.rect().translated(lugar.esquina);
+    SuperficieImagen superficie(imagen, lugar.escala, SuperficieImagen::Letras::suaves, lugar.esquina, zona);
+    Capas capas(superficie, dibujo);
     for (const auto& [indice, aberturas] : sesion.paredesEnMovimiento) {
         if (const Pared* pared = dibujo.Pared.en(indice)) capas.anadir(Clase::Pared, indice, *pared);
         for (const Referencia abertura : aberturas)
@@ -208,6 +214,9 @@ void pintarEnMovimiento(QPainter& pintor, const Sesion& sesion, double escala) {
     if (dibujo.ObjetoEnMovimiento && !seEscribe(sesion, *dibujo.ObjetoEnMovimiento))
         capas.anadir(*dibujo.ObjetoEnMovimiento);
     capas.pintar();
+}
+
+void pintarGuias(QPainter& pintor, const Sesion& sesion, double escala) {
     pintarMarco(pintor, sesion.RectSel, escala);
     pintarVector(pintor, sesion.Vector, escala);
 }

@@ -1,6 +1,6 @@
 #include "ui/selector_color.h"
 
-#include "ui/superficie_qt.h"
+#include "ui/color_qt.h"
 
 #include <QColorDialog>
 #include <QFrame>

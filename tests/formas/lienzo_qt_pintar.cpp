@@ -5,7 +5,7 @@
 #include "furnishing/dibujar_elemento.h"
 #include "output/escala.h"
 #include "ui/lienzo_qt.h"
-#include "ui/superficie_qt.h"
+#include "ui/letra.h"
 
 #include <QFontMetrics>
 #include <cmath>

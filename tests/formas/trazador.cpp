@@ -1,7 +1,8 @@
 #include "formas/trazador.h"
 
 #include "output/escala.h"
-#include "ui/superficie_qt.h"
+#include "ui/color_qt.h"
+#include "ui/letra.h"
 
 #include <QFontMetricsF>
 #include <algorithm>

@@ -1,9 +1,7 @@
-#include "ui/pixeles_curva.h"
+#include "surface/trama.h"
 
-#include <QtMath>
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 #include <numbers>
 
 namespace bosquel {
@@ -35,14 +33,28 @@ double cateto(double lado) {
     return std::sqrt(std::max(0.0, 1 - lado * lado));
 }
 
-/// Collects pixels of a curve by its directions, leaving out those that its arc does not reach.
+int entero(double coordenada) {
+    return static_cast<int>(std::floor(coordenada + 0.5));
+}
+
+int techo(double coordenada) {
+    return static_cast<int>(std::ceil(coordenada));
+}
+
+int suelo(double coordenada) {
+    return static_cast<int>(std::floor(coordenada));
+}
+
+/// Sets the pixels of a curve by its directions, leaving out those that its arc does not reach.
 class Recorrido {
   public:
-    explicit Recorrido(const Curva& curva)
-        : curva_(curva),
-          ejeX_(std::max(curva.ejeX(), punto)),
-          ejeY_(std::max(curva.ejeY(), punto)),
-          diagonal_(std::hypot(ejeX_, ejeY_)) {
+    Recorrido(Trama& trama, const Curva& curva, Trama::Pixel tinta)
+        : trama_(trama),
+          tinta_(tinta),
+          curva_(curva),
+          ejeX_(std::max(curva.ejeX(), minimo)),
+          ejeY_(std::max(curva.ejeY(), minimo)),
+          diagonal_(std::sqrt(ejeX_ * ejeX_ + ejeY_ * ejeY_)) {
         const double abertura = curva.arco ? enVuelta(curva.arco->fin - curva.arco->inicio) : 0;
         if (abertura == 0) return;
         forma_ = abertura <= vuelta / 2 ? Forma::hastaMedia : Forma::masDeMedia;
@@ -50,41 +62,39 @@ class Recorrido {
         fin_ = rumboDe(curva.arco->fin);
     }
 
-    std::vector<QPoint> pixeles() {
-        pixeles_.reserve(static_cast<std::size_t>(4 * diagonal_) + 16);
+    void trazar() {
         porColumnas();
         porFilas();
         hitos();
-        return std::move(pixeles_);
     }
 
   private:
     /// What of its circle the arc takes.
     enum class Forma : std::uint8_t { entera, hastaMedia, masDeMedia };
 
-    static constexpr double punto = 1e-9;  ///< a half-axis of this length is one, too
+    static constexpr double minimo = 1e-9;  ///< a half-axis of this length is one, too
 
     /// Where the curve runs rather across than down, it has one pixel in each column.
     void porColumnas() {
         const double alcance = ejeX_ * ejeX_ / diagonal_;
-        const int ultima = qFloor(curva_.x + alcance);
-        for (int x = qCeil(curva_.x - alcance); x <= ultima; ++x) {
+        const int ultima = std::min(suelo(curva_.x + alcance), trama_.zona().x2);
+        for (int x = std::max(techo(curva_.x - alcance), trama_.zona().x1); x <= ultima; ++x) {
             const double coseno = (x - curva_.x) / ejeX_;
             const double seno = cateto(coseno);
             for (const Rumbo rumbo : {Rumbo{coseno, seno}, Rumbo{coseno, -seno}})
-                if (alcanza(rumbo)) pixeles_.emplace_back(x, fila(rumbo));
+                if (alcanza(rumbo)) trama_.punto(x, fila(rumbo), tinta_);
         }
     }
 
     /// And in each row elsewhere.
     void porFilas() {
         const double alcance = ejeY_ * ejeY_ / diagonal_;
-        const int ultima = qFloor(curva_.y + alcance);
-        for (int y = qCeil(curva_.y - alcance); y <= ultima; ++y) {
+        const int ultima = std::min(suelo(curva_.y + alcance), trama_.zona().y2);
+        for (int y = std::max(techo(curva_.y - alcance), trama_.zona().y1); y <= ultima; ++y) {
             const double seno = (curva_.y - y) / ejeY_;
             const double coseno = cateto(seno);
             for (const Rumbo rumbo : {Rumbo{coseno, seno}, Rumbo{-coseno, seno}})
-                if (alcanza(rumbo)) pixeles_.emplace_back(columna(rumbo), y);
+                if (alcanza(rumbo)) trama_.punto(columna(rumbo), y, tinta_);
         }
     }
 
@@ -108,32 +118,38 @@ class Recorrido {
         return forma_ == Forma::hastaMedia ? trasInicio && anteFin : trasInicio || anteFin;
     }
 
-    void poner(Rumbo rumbo) { pixeles_.emplace_back(columna(rumbo), fila(rumbo)); }
-    int columna(Rumbo rumbo) const { return qRound(curva_.x + ejeX_ * rumbo.coseno); }
-    int fila(Rumbo rumbo) const { return qRound(curva_.y - ejeY_ * rumbo.seno); }
+    void poner(Rumbo rumbo) { trama_.punto(columna(rumbo), fila(rumbo), tinta_); }
+    int columna(Rumbo rumbo) const { return entero(curva_.x + ejeX_ * rumbo.coseno); }
+    int fila(Rumbo rumbo) const { return entero(curva_.y - ejeY_ * rumbo.seno); }
 
+    Trama& trama_;
+    Trama::Pixel tinta_;
     const Curva& curva_;
     double ejeX_, ejeY_, diagonal_;
     Forma forma_ = Forma::entera;
     Rumbo inicio_, fin_;
-    std::vector<QPoint> pixeles_;
 };
+
+bool alAlcance(const ZonaPixeles& zona, const Curva& curva) {
+    const double x = curva.ejeX() + 1;
+    const double y = curva.ejeY() + 1;
+    return curva.x + x >= zona.x1 && curva.x - x <= zona.x2 && curva.y + y >= zona.y1 &&
+           curva.y - y <= zona.y2;
+}
 
 }  // namespace
 
-std::vector<QPoint> pixelesDe(const Curva& curva) {
-    return Recorrido(curva).pixeles();
+void Trama::curva(const Curva& curva, Pixel tinta) {
+    if (alAlcance(zona_, curva)) Recorrido(*this, curva, tinta).trazar();
 }
 
-std::vector<QLine> filasDe(const Curva& curva) {
-    std::vector<QLine> filas;
+void Trama::rellenarCurva(const Curva& curva, Pixel tinta) {
     const double ejeY = curva.ejeY();
-    for (int y = qCeil(curva.y - ejeY); y < curva.y + ejeY; ++y) {
+    const int fin = std::min(techo(curva.y + ejeY), zona_.y2 + 1);
+    for (int y = std::max(techo(curva.y - ejeY), zona_.y1); y < fin; ++y) {
         const double media = curva.ejeX() * cateto((y - curva.y) / ejeY);
-        const QLine fila(qCeil(curva.x - media), y, qFloor(curva.x + media), y);
-        if (fila.x1() <= fila.x2()) filas.push_back(fila);
+        rellenar({techo(curva.x - media), y, suelo(curva.x + media), y}, tinta);
     }
-    return filas;
 }
 
 }  // namespace bosquel

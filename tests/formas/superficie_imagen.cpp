@@ -1,4 +1,4 @@
-#include "ui/superficie_qt.h"
+#include "ui/superficie_imagen.h"
 
 #include "apoyo/muestrario.h"
 #include "drawing/sesion.h"
@@ -31,8 +31,7 @@ QImage papel(int ancho = 300, int alto = 300) {
 template <class Dibujar>
 QImage pintado(Dibujar dibujar, double escala = 1, QPointF origen = {}, QSize tamano = {300, 300}) {
     QImage imagen = papel(tamano.width(), tamano.height());
-    QPainter pintor(&imagen);
-    SuperficieQt superficie(pintor, escala, origen);
+    SuperficieImagen superficie(imagen, escala, SuperficieImagen::Letras::suaves, origen);
     dibujar(superficie);
     return imagen;
 }
@@ -111,7 +110,7 @@ class Sonda : public SuperficieSalida {
 
 }  // namespace
 
-TEST(SuperficieQt, UnArcoVaDeSuPrincipioASuFinContraElReloj) {
+TEST(SuperficieImagen, UnArcoVaDeSuPrincipioASuFinContraElReloj) {
     for (const double aspecto : {1.0, 0.6, 1.5})
         for (int inicio = 0; inicio < 360; inicio += 30)
             for (int fin = 0; fin < 360; fin += 45) {
@@ -134,7 +133,7 @@ TEST(SuperficieQt, UnArcoVaDeSuPrincipioASuFinContraElReloj) {
             }
 }
 
-TEST(SuperficieQt, ExtremosIgualesSonLaVueltaEnteraSinRelleno) {
+TEST(SuperficieImagen, ExtremosIgualesSonLaVueltaEnteraSinRelleno) {
     const QImage imagen = pintado([](SuperficieSalida& hoja) {
         hoja.FillStyle(Relleno::solido);
         hoja.FillColor(rojo);
@@ -147,7 +146,7 @@ TEST(SuperficieQt, ExtremosIgualesSonLaVueltaEnteraSinRelleno) {
     EXPECT_EQ(imagen.pixelColor(150, 120), QColor(Qt::white));
 }
 
-TEST(SuperficieQt, CajasYElipsesSeRellenanComoDiceElEstado) {
+TEST(SuperficieImagen, CajasYElipsesSeRellenanComoDiceElEstado) {
     const QImage imagen = pintado(
         [](SuperficieSalida& hoja) {
             hoja.Caja(10, 10, 50, 50, negro);
@@ -173,7 +172,7 @@ TEST(SuperficieQt, CajasYElipsesSeRellenanComoDiceElEstado) {
     EXPECT_EQ(imagen.pixelColor(200, 200), blanca);
 }
 
-TEST(SuperficieQt, NadaSeSuaviza) {
+TEST(SuperficieImagen, NadaSeSuaviza) {
     const QImage imagen = pintado([](SuperficieSalida& hoja) {
         hoja.Line(3, 5, 280, 130, negro);
         hoja.Circle({150, 150, 90.3, Arco{0.2, 4}}, negro);
@@ -186,7 +185,7 @@ TEST(SuperficieQt, NadaSeSuaviza) {
         }
 }
 
-TEST(SuperficieQt, LoDesmedidoNoSePintaNiCuelga) {
+TEST(SuperficieImagen, LoDesmedidoNoSePintaNiCuelga) {
     const QImage imagen = pintado([](SuperficieSalida& hoja) {
         hoja.Circle({0, 0, 1e12}, negro);
         hoja.Circle({1e12, 0, 5}, negro);
@@ -197,7 +196,7 @@ TEST(SuperficieQt, LoDesmedidoNoSePintaNiCuelga) {
     EXPECT_EQ(imagen, papel());
 }
 
-TEST(SuperficieQt, UnTextoEmpiezaEnSuEsquinaYTieneSuCuerpo) {
+TEST(SuperficieImagen, UnTextoEmpiezaEnSuEsquinaYTieneSuCuerpo) {
     const QImage imagen = pintado(
         [](SuperficieSalida& hoja) {
             hoja.FontSize(20);
@@ -278,7 +277,7 @@ void esperarTrazos(const Encuadre& encuadre, const QImage& imagen) {
 
 }  // namespace
 
-TEST(SuperficieQt, LasFigurasHuecasPintanSusTrazosYNadaMasComoEnElSvg) {
+TEST(SuperficieImagen, LasFigurasHuecasPintanSusTrazosYNadaMasComoEnElSvg) {
     for (const Muestra& muestra : muestrario()) {
         const bool sanitario = muestra.clase >= Clase::MblInodoro && muestra.clase <= Clase::MblUrinario;
         if (!sanitario && muestra.clase != Clase::Escalera && muestra.clase != Clase::Electrico) continue;
@@ -291,13 +290,13 @@ TEST(SuperficieQt, LasFigurasHuecasPintanSusTrazosYNadaMasComoEnElSvg) {
 namespace {
 
 constexpr double escalaHoja = 1.0 / 15;
+const LugarHoja enHoja{{}, escalaHoja};
 
 QImage hojaPintada(Sesion& sesion) {
     anunciarTodo(sesion.dibujo);
     sesion.mapa.ponerAlDia(sesion.dibujo);
     QImage imagen = papel();
-    QPainter pintor(&imagen);
-    pintarQuieto(pintor, sesion, imagen.rect(), escalaHoja);
+    pintarQuieto(imagen, enHoja, sesion, imagen.rect());
     return imagen;
 }
 
@@ -378,8 +377,7 @@ TEST(PinturaHoja, LoQueSeArrastraNoEstaEnLoQuieto) {
     sesion.dibujo.ObjetoEnMovimiento = Referencia{Clase::MblArmario, 1};
     QImage imagen = hojaPintada(sesion);
     EXPECT_EQ(imagen.pixelColor(25, 25), QColor(Qt::white));
-    QPainter pintor(&imagen);
-    pintarEnMovimiento(pintor, sesion, escalaHoja);
+    pintarEnMovimiento(imagen, enHoja, sesion);
     EXPECT_EQ(imagen.pixelColor(25, 25), QColor(255, 0, 0));
 }
 
@@ -413,22 +411,19 @@ TEST(PinturaHoja, UnTrozoPintadoDeNuevoNoCambiaNada) {
     QImage aTrozos = papel();
     for (int y = 0; y < 300; y += 7)
         for (int x = 0; x < 300; x += 13) {
-            QPainter pintor(&aTrozos);
-            const QRect trozo(x, y, 13, 7);
-            pintor.setClipRect(trozo);
-            pintarQuieto(pintor, sesion, trozo, escalaHoja);
+            pintarQuieto(aTrozos, enHoja, sesion, {x, y, 13, 7});
         }
     EXPECT_TRUE(aTrozos == entera);
 }
 
-TEST(SuperficieQt, UnaCajaSinAnchoEsUnTrazo) {
+TEST(SuperficieImagen, UnaCajaSinAnchoEsUnTrazo) {
     const QImage imagen =
         pintado([](SuperficieSalida& superficie) { superficie.Caja(50, 20, 50, 80, negro); });
     EXPECT_TRUE(tinta(imagen, 50, 20) && tinta(imagen, 50, 50) && tinta(imagen, 50, 80));
     EXPECT_FALSE(tinta(imagen, 0, 0) || tinta(imagen, 51, 50) || tinta(imagen, 49, 50));
 }
 
-TEST(SuperficieQt, UnaCajaFueraDelPapelNoDejaTinta) {
+TEST(SuperficieImagen, UnaCajaFueraDelPapelNoDejaTinta) {
     for (const double lejos : {400.0, -400.0, 1e6, -1e6, 1e300, -1e300}) {
         const QImage imagen = pintado([&](SuperficieSalida& superficie) {
             superficie.FillStyle(Relleno::solido);
@@ -438,7 +433,7 @@ TEST(SuperficieQt, UnaCajaFueraDelPapelNoDejaTinta) {
     }
 }
 
-TEST(SuperficieQt, UnaCajaQueAbarcaElPapelLoLlena) {
+TEST(SuperficieImagen, UnaCajaQueAbarcaElPapelLoLlena) {
     const QImage imagen = pintado([](SuperficieSalida& superficie) {
         superficie.FillStyle(Relleno::solido);
         superficie.FillColor(rojo);

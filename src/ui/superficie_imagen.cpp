@@ -1,0 +1,76 @@
+#include "ui/superficie_imagen.h"
+
+#include "ui/color_qt.h"
+#include "ui/letra.h"
+
+#include <QFontMetricsF>
+#include <QWidget>
+
+namespace bosquel {
+
+namespace {
+
+ZonaPixeles zonaDe(const QRect& rect) {
+    return {rect.left(), rect.top(), rect.right(), rect.bottom()};
+}
+
+/// The part `zona` of a picture whose corner is the pixel `esquina`.
+Trama tramaDe(QImage& imagen, QPoint esquina, const QRect& zona) {
+    const QRect suya = imagen.rect().translated(esquina) & zona;
+    // A picture that shares its pixels takes its own here, in rows of a length of its own.
+    auto* pixeles = reinterpret_cast<Trama::Pixel*>(imagen.bits());
+    const auto salto = imagen.bytesPerLine() / static_cast<qsizetype>(sizeof(Trama::Pixel));
+    const QPoint primero = suya.topLeft() - esquina;
+    return {pixeles + primero.y() * salto + primero.x(), salto, zonaDe(suya)};
+}
+
+}  // namespace
+
+SuperficieImagen::SuperficieImagen(QImage& imagen, double escala, Letras letras, QPointF origen)
+    : SuperficiePixeles(tramaDe(imagen, {}, imagen.rect()), escala, {origen.x(), origen.y()}),
+      imagen_(imagen),
+      letras_(letras) {}
+
+SuperficieImagen::SuperficieImagen(QImage& imagen, double escala, Letras letras, QPoint esquina,
+                                   const QRect& zona)
+    : SuperficiePixeles(tramaDe(imagen, esquina, zona), escala, {}),
+      imagen_(imagen),
+      esquina_(esquina),
+      letras_(letras) {}
+
+/// Texts are rare, and a painter takes long to begin.
+QPainter& SuperficieImagen::pintor() {
+    if (pintor_) return *pintor_;
+    pintor_.emplace(&imagen_);
+    pintor_->translate(-esquina_);
+    const ZonaPixeles& zona = trama().zona();
+    pintor_->setClipRect(QRect(QPoint(zona.x1, zona.y1), QPoint(zona.x2, zona.y2)));
+    return *pintor_;
+}
+
+void SuperficieImagen::ponerLetra() {
+    if (puntosLetra_ == puntos_) return;
+    puntosLetra_ = puntos_;
+    QFont letra = fuenteTexto(puntos_, escala());
+    if (letras_ == Letras::enteras) letra = sinSuavizar(letra);
+    pintor().setFont(letra);
+    ascenso_ = QFontMetricsF(letra).ascent();
+}
+
+void SuperficieImagen::Print(std::string_view texto) {
+    const LugarPixeles esquina = enPixeles(texto_.x, texto_.y);
+    if (!alAlcance(esquina)) return;
+    ponerLetra();
+    pintor().setPen(colorQt(colorTexto_));
+    pintor().drawText(QPoint(pixelEntero(esquina.x), pixelEntero(esquina.y + ascenso_)),
+                      QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
+}
+
+QImage papelPara(const QWidget& widget) {
+    const QSizeF tamano = QSizeF(widget.size()) * widget.devicePixelRatioF();
+    QImage papel(tamano.toSize(), QImage::Format_RGB32);
+    papel.fill(Qt::white);
+    return papel;
+}
+
+}  // namespace bosquel
