@@ -20,7 +20,7 @@ void porPasos(int a1, int b1, int a2, int b2, int desde, int hasta, Poner poner)
     const int primero = std::max(a1, desde);
     const int ultimo = std::min(a2, hasta);
     // After i steps `b` has come as many pixels as 2 * i * subida + pasos holds 2 * pasos.
-    const std::int64_t pasos = a2 - a1;
+    const std::int64_t pasos = std::max(a2 - a1, 1);
     const std::int64_t subida = b2 - b1;
     const std::int64_t dividendo = 2 * (primero - a1) * subida + pasos;
     const std::int64_t hechos = dividendo / (2 * pasos) - (dividendo % (2 * pasos) < 0 ? 1 : 0);
@@ -70,15 +70,29 @@ void Trama::enmarcar(const ZonaPixeles& zona, Pixel tinta) {
     rellenar({zona.x2, zona.y1, zona.x2, zona.y2}, tinta);
 }
 
-void Trama::linea(int x1, int y1, int x2, int y2, Pixel tinta) {
+/// Calls `poner(x, y, n)` for the pixels of a line, as far as they may lie in the zone: the n-th from its
+/// upper or left end, which is number 0.
+template <class Poner>
+void Trama::porPixeles(int x1, int y1, int x2, int y2, Poner poner) {
     const ZonaPixeles marco = entre(x1, y1, x2, y2);
-    if (x1 == x2 || y1 == y2) return rellenar(marco, tinta);
     const ZonaPixeles suya = comun(marco, zona_);
     if (suya.x1 > suya.x2 || suya.y1 > suya.y2) return;
     if (marco.x2 - marco.x1 >= marco.y2 - marco.y1)
-        porPasos(x1, y1, x2, y2, zona_.x1, zona_.x2, [&](int x, int y) { punto(x, y, tinta); });
+        porPasos(x1, y1, x2, y2, zona_.x1, zona_.x2, [&](int x, int y) { poner(x, y, x - marco.x1); });
     else
-        porPasos(y1, x1, y2, x2, zona_.y1, zona_.y2, [&](int y, int x) { punto(x, y, tinta); });
+        porPasos(y1, x1, y2, x2, zona_.y1, zona_.y2, [&](int y, int x) { poner(x, y, y - marco.y1); });
+}
+
+void Trama::linea(int x1, int y1, int x2, int y2, Pixel tinta) {
+    if (x1 == x2 || y1 == y2) return rellenar(entre(x1, y1, x2, y2), tinta);
+    porPixeles(x1, y1, x2, y2, [&](int x, int y, int) { punto(x, y, tinta); });
+}
+
+void Trama::puntear(int x1, int y1, int x2, int y2, Pixel tinta) {
+    constexpr int cada = 3;
+    porPixeles(x1, y1, x2, y2, [&](int x, int y, int paso) {
+        if (paso % cada == 0) punto(x, y, tinta);
+    });
 }
 
 }  // namespace bosquel

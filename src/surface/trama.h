@@ -47,6 +47,9 @@ class Trama {
     /// one.
     void linea(int x1, int y1, int x2, int y2, Pixel tinta);
 
+    /// Every third pixel of such a line, from its upper or left end on.
+    void puntear(int x1, int y1, int x2, int y2, Pixel tinta);
+
     /// A curve whose lengths are pixels, middle and half-axes within `lejos`; a pixel stands for the whole
     /// numbers of its middle. Each is one through whose square the curve passes, and where it passes through
     /// two that share a side, one of them may do for both.
@@ -58,6 +61,8 @@ class Trama {
     static constexpr int lejos = 20000;
 
   private:
+    template <class Poner>
+    void porPixeles(int x1, int y1, int x2, int y2, Poner poner);
     Pixel* en(int x, int y) { return primero_ + (y - zona_.y1) * salto_ + (x - zona_.x1); }
 
     Pixel* primero_;

@@ -148,7 +148,7 @@ QImage HojaWidget::imagenDe(const QRect& pixeles) const {
         imagen = QImage(pixeles.size(), QImage::Format_RGB32);
         pintarQuieto(imagen, lugarDe(pixeles), sesion, pixeles);
     }
-    if (hayMovimiento(sesion)) pintarEnMovimiento(imagen, lugarDe(pixeles), sesion);
+    if (hayEncima(sesion)) pintarEncima(imagen, lugarDe(pixeles), sesion);
     return imagen;
 }
 
@@ -161,7 +161,6 @@ void HojaWidget::paintEvent(QPaintEvent* evento) {
         const QRect pixeles = enPixeles(zona, densidad_);
         pintor.drawImage(pixeles.topLeft(), imagenDe(pixeles));
     }
-    pintarGuias(pintor, bosquel_.sesion(), densidad_ / unidadesPorPixel);
 }
 
 QPointF HojaWidget::enHoja(const QMouseEvent& evento) const {

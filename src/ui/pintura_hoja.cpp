@@ -150,28 +150,24 @@ Recuadro conVecinos(const Recuadro& zona, double escala) {
     return {zona.Left - 1 / escala, zona.Top - 1 / escala, zona.Width + 2 / escala, zona.Height + 2 / escala};
 }
 
-/// The line, or a rectangle with these opposite corners, as far as it can be painted.
-std::optional<QLine> enPixeles(double x1, double y1, double x2, double y2, double escala) {
-    const auto tramo = recortar({x1 * escala, y1 * escala}, {x2 * escala, y2 * escala});
-    return tramo ? std::optional(QLine(tramo->x1, tramo->y1, tramo->x2, tramo->y2)) : std::nullopt;
-}
-
-void pintarMarco(QPainter& pintor, const MarcoDeSeleccion& marco, double escala) {
+void pintarMarco(SuperficieImagen& superficie, const MarcoDeSeleccion& marco) {
     if (!marco.Visible) return;
     const Recuadro& zona = marco.recuadro;
-    const auto esquinas =
-        enPixeles(zona.Left, zona.Top, zona.Left + zona.Width, zona.Top + zona.Height, escala);
+    const auto esquinas = recortar(superficie.enPixeles(zona.Left, zona.Top),
+                                   superficie.enPixeles(zona.Left + zona.Width, zona.Top + zona.Height));
     if (!esquinas) return;
-    pintor.setPen(QPen(colorQt(rojo), 1, Qt::DotLine));
-    pintor.setBrush(Qt::NoBrush);
-    pintor.drawRect(QRect(esquinas->p1(), QSize(esquinas->dx(), esquinas->dy())));
+    const auto [x1, y1, x2, y2] = *esquinas;
+    for (const auto [xa, ya, xb, yb] : {TramoPixeles{x1, y1, x2, y1}, TramoPixeles{x1, y2, x2, y2},
+                                        TramoPixeles{x1, y1, x1, y2}, TramoPixeles{x2, y1, x2, y2}})
+        superficie.trama().puntear(xa, ya, xb, yb, Trama::pixel(rojo));
 }
 
-void pintarVector(QPainter& pintor, const Segmento& vector, double escala) {
+void pintarVector(SuperficieImagen& superficie, const Segmento& vector) {
     if (!vector.Visible) return;
-    const auto linea = enPixeles(vector.X1, vector.Y1, vector.X2, vector.Y2, escala);
-    pintor.setPen(QPen(colorQt(colorVector), 1, Qt::DotLine));
-    if (linea) pintor.drawLine(*linea);
+    const auto tramo =
+        recortar(superficie.enPixeles(vector.X1, vector.Y1), superficie.enPixeles(vector.X2, vector.Y2));
+    if (!tramo) return;
+    superficie.trama().puntear(tramo->x1, tramo->y1, tramo->x2, tramo->y2, Trama::pixel(colorVector));
 }
 
 }  // namespace
@@ -197,11 +193,12 @@ void pintarQuieto(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion, 
     capas.pintar();
 }
 
-bool hayMovimiento(const Sesion& sesion) {
-    return !sesion.paredesEnMovimiento.empty() || sesion.dibujo.ObjetoEnMovimiento;
+bool hayEncima(const Sesion& sesion) {
+    return !sesion.paredesEnMovimiento.empty() || sesion.dibujo.ObjetoEnMovimiento ||
+           sesion.RectSel.Visible || sesion.Vector.Visible;
 }
 
-void pintarEnMovimiento(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion) {
+void pintarEncima(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion) {
     const Dibujo& dibujo = sesion.dibujo;
     const QRect zona = imagen.rect().translated(lugar.esquina);
     SuperficieImagen superficie(imagen, lugar.escala, SuperficieImagen::Letras::suaves, lugar.esquina, zona);
@@ -214,11 +211,8 @@ void pintarEnMovimiento(QImage& imagen, const LugarHoja& lugar, const Sesion& se
     if (dibujo.ObjetoEnMovimiento && !seEscribe(sesion, *dibujo.ObjetoEnMovimiento))
         capas.anadir(*dibujo.ObjetoEnMovimiento);
     capas.pintar();
-}
-
-void pintarGuias(QPainter& pintor, const Sesion& sesion, double escala) {
-    pintarMarco(pintor, sesion.RectSel, escala);
-    pintarVector(pintor, sesion.Vector, escala);
+    pintarMarco(superficie, sesion.RectSel);
+    pintarVector(superficie, sesion.Vector);
 }
 
 }  // namespace bosquel

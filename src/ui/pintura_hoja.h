@@ -3,7 +3,7 @@
 #include "drawing/sesion.h"
 
 #include <QImage>
-#include <QPainter>
+#include <QPoint>
 #include <QRect>
 
 namespace bosquel {
@@ -19,11 +19,8 @@ struct LugarHoja {
 /// Paper, grid, and all that stands still in a part of the sheet, in its z-order.
 void pintarQuieto(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion, const QRect& zona);
 
-/// What is being dragged.
-bool hayMovimiento(const Sesion& sesion);
-void pintarEnMovimiento(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion);
-
-/// The selection frame and the rubber line. The painter's origin is the sheet's corner.
-void pintarGuias(QPainter& pintor, const Sesion& sesion, double escala);
+/// What lies over all that: what is being dragged, the selection frame, and the rubber line.
+bool hayEncima(const Sesion& sesion);
+void pintarEncima(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion);
 
 }  // namespace bosquel

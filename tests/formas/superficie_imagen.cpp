@@ -377,7 +377,7 @@ TEST(PinturaHoja, LoQueSeArrastraNoEstaEnLoQuieto) {
     sesion.dibujo.ObjetoEnMovimiento = Referencia{Clase::MblArmario, 1};
     QImage imagen = hojaPintada(sesion);
     EXPECT_EQ(imagen.pixelColor(25, 25), QColor(Qt::white));
-    pintarEnMovimiento(imagen, enHoja, sesion);
+    pintarEncima(imagen, enHoja, sesion);
     EXPECT_EQ(imagen.pixelColor(25, 25), QColor(255, 0, 0));
 }
 
