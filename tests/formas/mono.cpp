@@ -1,4 +1,5 @@
 #include "apoyo/invariantes.h"
+#include "apoyo/semillas.h"
 #include "apoyo/uniones_muros.h"
 #include "formas/ventana_de_prueba.h"
 
@@ -140,14 +141,16 @@ class MonoEnVentana : public testing::TestWithParam<unsigned> {
 }  // namespace
 
 TEST_P(MonoEnVentana, NadaSeRompe) {
-    for (int i = 1; i <= 150 && !HasFailure(); ++i) {
-        SCOPED_TRACE("step " + std::to_string(i));
+    const int pasos = pasosDelMono(150);
+    for (int i = 1; i <= pasos && !HasFailure(); ++i) {
+        SCOPED_TRACE("BOSQUEL_MONO_SEMILLA=" + std::to_string(GetParam()) +
+                     " BOSQUEL_MONO_PASOS=" + std::to_string(i));
         paso();
         QApplication::processEvents();
         comprobar(bosquel_.sesion());
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Semillas, MonoEnVentana, testing::Range(1U, 4U));
+INSTANTIATE_TEST_SUITE_P(Semillas, MonoEnVentana, testing::ValuesIn(semillas(3)));
 
 }  // namespace bosquel::apoyo
