@@ -29,6 +29,7 @@ struct Cota {
         : mm{static_cast<std::int16_t>(milimetros)} {}  // untested: only the compiler runs it
 };
 
+/// One term more, in the first free place.
 consteval Cota conTermino(Cota cota, int milimetros) {
     for (std::int16_t& termino : cota.mm)
         if (milimetros == 0 || termino == 0) {
