@@ -71,7 +71,7 @@ class Programa {
   public:
     explicit Programa(const fs::path& carpeta) : bosquel_(plataforma_, carpeta) { bosquel_.cargar(); }
 
-    const Dibujo& dibujo() const { return bosquel_.sesion().dibujo; }
+    const Dibujo& dibujo() { return bosquel_.sesion().dibujo; }
     void pulsar(Principal boton) { bosquel_.pulsarPrincipal(boton); }
 
     void abrir(const fs::path& ruta) {

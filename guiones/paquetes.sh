@@ -2,7 +2,7 @@
 # Set-up shared by ./ejecutar and ./probar: the Debian packages that each of them needs, their installation
 # and the Spanish locale. To be sourced.
 
-# shellcheck disable=SC2034  # both lists are for whoever sources this
+# shellcheck disable=SC2034  # the lists are for whoever sources this
 paquetesPrograma=(
     build-essential
     cmake
@@ -39,6 +39,15 @@ paquetesMedidas=(
     libbenchmark-dev
     libglib2.0-dev # a peer, for the files
     pkgconf
+)
+
+# shellcheck disable=SC2034
+paquetesCobertura=(
+    ccache
+    libgtest-dev
+    clang
+    libclang-rt-dev # the counters
+    llvm            # llvm-profdata, llvm-cov
 )
 
 # shellcheck disable=SC2034

@@ -14,7 +14,6 @@ class Bosquel {
   public:
     Bosquel(Plataforma& plataforma, std::filesystem::path carpeta);
 
-    const Sesion& sesion() const { return sesion_; }
     /// For dialogs, which write straight into the drawing.
     Sesion& sesion() { return sesion_; }
 

@@ -19,13 +19,6 @@ std::int64_t columnaDe(double coordenada) {
         std::clamp(std::floor(coordenada / lado), -ultimaCasilla, ultimaCasilla));
 }
 
-void quitarDe(std::vector<std::uint32_t>& claves, std::uint32_t clave) {
-    const auto lugar = std::find(claves.begin(), claves.end(), clave);
-    if (lugar == claves.end()) return;
-    *lugar = claves.back();
-    claves.pop_back();
-}
-
 }  // namespace
 
 Mapa::Clave Mapa::claveDe(Referencia cual) {
@@ -79,7 +72,8 @@ void Mapa::borrar(Referencia cual, ZonaSucia& zona) {
     const auto ficha = fichas_.find(claveDe(cual));
     if (ficha == fichas_.end()) return;
     zona.anadir(ficha->second.extension);
-    porCasillas(ficha->second.extension, [&](std::vector<Clave>& claves) { quitarDe(claves, ficha->first); });
+    porCasillas(ficha->second.extension,
+                [&](std::vector<Clave>& claves) { std::erase(claves, ficha->first); });
     fichas_.erase(ficha);
 }
 

@@ -25,50 +25,51 @@ struct Cota {
     constexpr Cota() = default;
     // NOLINTNEXTLINE(google-explicit-constructor,hicpp-explicit-conversions): a table is full of plain
     // numbers
-    constexpr Cota(int milimetros) { anadir(milimetros); }
-
-    constexpr void anadir(int milimetros) {
-        for (std::int16_t& termino : mm)
-            if (milimetros == 0 || termino == 0) {
-                termino = static_cast<std::int16_t>(termino + milimetros);
-                return;
-            }
-        throw std::length_error("Cota");  // in a table: it does not compile
-    }
+    consteval Cota(int milimetros)
+        : mm{static_cast<std::int16_t>(milimetros)} {}  // untested: only the compiler runs it
 };
 
-constexpr Cota operator+(Cota a, const Cota& b) {
+/// One term more, in the first free place.
+consteval Cota conTermino(Cota cota, int milimetros) {
+    for (std::int16_t& termino : cota.mm)
+        if (milimetros == 0 || termino == 0) {
+            termino = static_cast<std::int16_t>(termino + milimetros);
+            return cota;
+        }
+    throw std::length_error("Cota");  // a table with one term too many does not compile
+}
+
+consteval Cota operator+(Cota a, const Cota& b) {
     for (const std::int16_t termino : b.mm)
-        a.anadir(termino);
+        a = conTermino(a, termino);
     a.parte += b.parte;
     a.unidades = static_cast<std::int16_t>(a.unidades + b.unidades);
     return a;
 }
 
-constexpr Cota operator-(Cota a, int milimetros) {
-    a.anadir(-milimetros);
-    return a;
+consteval Cota operator-(Cota a, int milimetros) {
+    return conTermino(a, -milimetros);
 }
 
-constexpr Cota operator/(Cota a, int partes) {
+consteval Cota operator/(Cota a, int partes) {
     a.parte /= partes;
     return a;
 }
 
 /// The first term of a sum or a difference: `2000_k - 300`.
-constexpr Cota operator""_k(unsigned long long milimetros) {
+consteval Cota operator""_k(unsigned long long milimetros) {
     return {static_cast<int>(milimetros)};
 }
 
 /// Bare units: `400 + 10_u`.
-constexpr Cota operator""_u(unsigned long long unidades) {
+consteval Cota operator""_u(unsigned long long unidades) {
     Cota cota;
     cota.unidades = static_cast<std::int16_t>(unidades);
     return cota;
 }
 
 /// The length that the element chooses.
-constexpr Cota longitudPropia() {
+consteval Cota longitudPropia() {
     Cota cota;
     cota.parte = 1;
     return cota;
@@ -88,30 +89,30 @@ struct Trazo {
 // The words of the sheets. Offsets are from the element's place, angles in degrees.
 
 /// A straight stroke, by its ends and by its steps.
-constexpr Trazo L(Cota x1, Cota y1, Cota x2, Cota y2) {
+consteval Trazo L(Cota x1, Cota y1, Cota x2, Cota y2) {
     return {Trazo::Forma::linea, x1, y1, x2, y2};
 }
-constexpr Trazo Stroke(Cota x, Cota y, Cota dx, Cota dy) {
+consteval Trazo Stroke(Cota x, Cota y, Cota dx, Cota dy) {
     return {Trazo::Forma::linea, x, y, dx, dy, true};
 }
 /// A box, by opposite corners and by corner and size.
-constexpr Trazo B(Cota x1, Cota y1, Cota x2, Cota y2) {
+consteval Trazo B(Cota x1, Cota y1, Cota x2, Cota y2) {
     return {Trazo::Forma::cuadro, x1, y1, x2, y2};
 }
-constexpr Trazo Box(Cota x, Cota y, Cota ancho, Cota alto) {
+consteval Trazo Box(Cota x, Cota y, Cota ancho, Cota alto) {
     return {Trazo::Forma::cuadro, x, y, ancho, alto, true};
 }
 /// An elliptic arc, an arc, an ellipse, a circle.
-constexpr Trazo EA(Cota x, Cota y, Cota radio, double desde, double hasta, double aspecto) {
+consteval Trazo EA(Cota x, Cota y, Cota radio, double desde, double hasta, double aspecto) {
     return {Trazo::Forma::curva, x, y, {}, {}, false, radio, Arco{desde, hasta}, aspecto};
 }
-constexpr Trazo A(Cota x, Cota y, Cota radio, double desde, double hasta) {
+consteval Trazo A(Cota x, Cota y, Cota radio, double desde, double hasta) {
     return EA(x, y, radio, desde, hasta, 1);
 }
-constexpr Trazo E(Cota x, Cota y, Cota radio, double aspecto) {
+consteval Trazo E(Cota x, Cota y, Cota radio, double aspecto) {
     return {Trazo::Forma::curva, x, y, {}, {}, false, radio, {}, aspecto};
 }
-constexpr Trazo C(Cota x, Cota y, Cota radio) {
+consteval Trazo C(Cota x, Cota y, Cota radio) {
     return E(x, y, radio, 1);
 }
 
@@ -131,7 +132,7 @@ template <std::size_t Pasos, std::size_t Codigos = 4>
 using Filas = std::array<std::array<Trazo, Codigos>, Pasos>;
 
 template <std::size_t Codigos, std::size_t Pasos>
-constexpr Lamina<Pasos, Codigos> porColumnas(const std::array<std::string_view, Codigos>& codigos,
+consteval Lamina<Pasos, Codigos> porColumnas(const std::array<std::string_view, Codigos>& codigos,
                                              const Filas<Pasos, Codigos>& filas) {
     Lamina<Pasos, Codigos> lamina{};
     for (std::size_t columna = 0; columna < Codigos; ++columna) {

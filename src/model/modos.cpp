@@ -1,41 +1,47 @@
 #include "model/modos.h"
 
+#include <array>
+#include <cstddef>
+
 namespace bosquel {
 
+namespace {
+
+struct FilaModo {
+    std::string_view texto;
+    bool espera;
+};
+
+// clang-format off
+// In the order of the modes.
+constexpr std::array<FilaModo, 12> modos{{
+    {"Aspa",         false},
+    {"Flecha",       false},
+    {"Seleccion",    true},
+    {"PrimeraPared", true},
+    {"SegundaPared", true},
+    {"Union1",       true},
+    {"Union2",       true},
+    {"Separar",      true},
+    {"Pared",        false},
+    {"Ventana",      true},
+    {"Puerta",       true},
+    {"Escalera",     true},
+}};
+// clang-format on
+
+const FilaModo& fila(Modo modo) {
+    return modos[static_cast<std::size_t>(modo)];
+}
+
+}  // namespace
+
 std::string_view texto(Modo modo) {
-    switch (modo) {
-        case Modo::Aspa: return "Aspa";
-        case Modo::Flecha: return "Flecha";
-        case Modo::Seleccion: return "Seleccion";
-        case Modo::PrimeraPared: return "PrimeraPared";
-        case Modo::SegundaPared: return "SegundaPared";
-        case Modo::Union1: return "Union1";
-        case Modo::Union2: return "Union2";
-        case Modo::Separar: return "Separar";
-        case Modo::Pared: return "Pared";
-        case Modo::Ventana: return "Ventana";
-        case Modo::Puerta: return "Puerta";
-        case Modo::Escalera: return "Escalera";
-    }
-    return {};
+    return fila(modo).texto;
 }
 
 bool espera(Modo modo) {
-    switch (modo) {
-        case Modo::Aspa:
-        case Modo::Flecha:
-        case Modo::Pared: return false;
-        case Modo::Seleccion:
-        case Modo::PrimeraPared:
-        case Modo::SegundaPared:
-        case Modo::Union1:
-        case Modo::Union2:
-        case Modo::Separar:
-        case Modo::Ventana:
-        case Modo::Puerta:
-        case Modo::Escalera: return true;
-    }
-    return false;
+    return fila(modo).espera;
 }
 
 }  // namespace bosquel

@@ -4,8 +4,8 @@
 #include "walls/esquina.h"
 #include "walls/pared.h"
 
-#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace bosquel {
 
@@ -19,6 +19,13 @@ struct Sitio {
     Cruce uno, tres;
 };
 
+/// Whether W1 is `ParedUno`, by the angles of the two: the wall with the smaller angle, with the larger, or
+/// the one below level.
+using Orden = bool (*)(int uno, int dos);
+constexpr Orden elMenor = [](int uno, int dos) { return uno < dos; };
+constexpr Orden elMayor = [](int uno, int dos) { return uno > dos; };
+constexpr Orden elNegativo = [](int uno, int) { return uno < 0; };
+
 // clang-format off
 
 /// W1 is always cut back to c11 and c31, and its new piece starts at c13 and c33.
@@ -28,6 +35,7 @@ struct FilaX {
     Corte corte;
     Sitio principio;  ///< of the new piece of W2
     Sitio fin;        ///< of W2
+    Orden unoEsW1 = elMenor;
 };
 constexpr std::array<FilaX, 2> tablaX{{
     {Corte::XPP, {c11, c13}, {c31, c33}},
@@ -38,6 +46,7 @@ enum class Cual : std::uint8_t { W1, W2 };
 
 struct FilaT {
     Corte corte;
+    Orden unoEsW1;
     Cual tallo;
     Extremo extremo;  ///< of the stem, with its cap
     Sitio tope;       ///< of the stem
@@ -49,36 +58,18 @@ constexpr std::array<FilaT, 8> tablaT = [] {
     using enum Cual;
     using enum Extremo;
     return std::array<FilaT, 8>{{
-        // procedure stem  its end  cut at      new piece   first piece
-        {Up,        W1,   inicial, {c11, c31}, {c31, c33}, {c11, c33}},
-        {Right,     W2,   final,   {c11, c13}, {c11, c31}, {c13, c31}},
-        {Down,      W1,   final,   {c13, c33}, {c31, c33}, {c31, c13}},
-        {Left,      W2,   inicial, {c31, c33}, {c11, c31}, {c11, c33}},
-        {T270Up,    W1,   final,   {c11, c31}, {c31, c33}, {c11, c33}},
-        {T270Down,  W1,   inicial, {c13, c33}, {c31, c33}, {c31, c13}},
-        {T270Left,  W2,   inicial, {c31, c33}, {c13, c33}, {c13, c31}},
-        {T270Right, W2,   final,   {c11, c13}, {c13, c33}, {c11, c33}},
+        // procedure order       stem  its end  cut at      new piece   first piece
+        {Up,         elMayor,    W1,   inicial, {c11, c31}, {c31, c33}, {c11, c33}},
+        {Right,      elMayor,    W2,   final,   {c11, c13}, {c11, c31}, {c13, c31}},
+        {Down,       elMayor,    W1,   final,   {c13, c33}, {c31, c33}, {c31, c13}},
+        {Left,       elMayor,    W2,   inicial, {c31, c33}, {c11, c31}, {c11, c33}},
+        {T270Up,     elNegativo, W1,   final,   {c11, c31}, {c31, c33}, {c11, c33}},
+        {T270Down,   elNegativo, W1,   inicial, {c13, c33}, {c31, c33}, {c31, c13}},
+        {T270Left,   elNegativo, W2,   inicial, {c31, c33}, {c13, c33}, {c13, c31}},
+        {T270Right,  elNegativo, W2,   final,   {c11, c13}, {c13, c33}, {c11, c33}},
     }};
 }();
 // clang-format on
-
-/// Whether W1 is `ParedUno`: the wall with the smaller angle, with the larger, or the one below level.
-bool unoEsW1(Corte corte, int a, int b) {
-    switch (corte) {
-        case Corte::nada:
-        case Corte::XPP:
-        case Corte::XPN: return a < b;
-        case Corte::Up:
-        case Corte::Right:
-        case Corte::Down:
-        case Corte::Left: return a > b;
-        case Corte::T270Up:
-        case Corte::T270Right:
-        case Corte::T270Down:
-        case Corte::T270Left: return a < 0;
-    }
-    return false;
-}
 
 /// The walls of a cut by index, and their crossings. These are all found before the first line moves.
 class Cortador {
@@ -160,23 +151,22 @@ class Cortador {
 };
 
 template <class Tabla>
-void abrirSegun(const Tabla& tabla, Corte corte, const Cortador& cortador) {
-    for (const auto& fila : tabla)
-        if (fila.corte == corte) cortador.abrir(fila);
+void cortarSegun(const Tabla& tabla, Dibujo& dibujo, Corte corte) {
+    for (const auto& fila : tabla) {
+        if (fila.corte != corte) continue;
+        int w1 = dibujo.ParedUno;
+        int w2 = dibujo.ParedDos;
+        if (!fila.unoEsW1(dibujo.Pared.en(w1)->Angulo, dibujo.Pared.en(w2)->Angulo)) std::swap(w1, w2);
+        Cortador(dibujo, w1, w2).abrir(fila);
+    }
 }
 
 }  // namespace
 
 void CortarParedes(Dibujo& dibujo, Corte corte) {
-    int w1 = dibujo.ParedUno;
-    int w2 = dibujo.ParedDos;
-    const Pared* uno = dibujo.Pared.en(w1);
-    const Pared* dos = dibujo.Pared.en(w2);
-    if (!uno || !dos || corte == Corte::nada) return;
-    if (!unoEsW1(corte, uno->Angulo, dos->Angulo)) std::swap(w1, w2);
-    const Cortador cortador(dibujo, w1, w2);
-    abrirSegun(tablaX, corte, cortador);
-    abrirSegun(tablaT, corte, cortador);
+    if (!dibujo.Pared.existe(dibujo.ParedUno) || !dibujo.Pared.existe(dibujo.ParedDos)) return;
+    cortarSegun(tablaX, dibujo, corte);
+    cortarSegun(tablaT, dibujo, corte);
 }
 
 }  // namespace bosquel

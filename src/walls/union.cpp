@@ -76,12 +76,9 @@ std::optional<ClaseAngulo> clase(int angulo) {
 }
 
 bool cumple(Relacion relacion, double punto, double extremo) {
-    switch (relacion) {
-        case Relacion::mayor: return punto > extremo;
-        case Relacion::alMenos: return punto >= extremo;
-        case Relacion::menor: return punto < extremo;
-    }
-    return false;
+    if (relacion == Relacion::mayor) return punto > extremo;
+    if (relacion == Relacion::alMenos) return punto >= extremo;
+    return punto < extremo;
 }
 
 bool cumple(const Prueba& prueba, const Dibujo& dibujo, const Segmento& A, const Segmento& B) {

@@ -201,6 +201,17 @@ TEST(VentanaLineas, LaDerechaSigueAlExtremoDelMuroAcortado) {
     EXPECT_NEAR(ventana.lineas[1].X1, antes - 500, 0.001);
 }
 
+TEST(VentanaLineas, UnaAlineacionDesconocidaEsAlInicioDeLaPared) {
+    Casa casa("Muro", 30, 1);
+    const Ventana& ventana = casa.ventana("Diagonal");
+    ColocaVentana(casa.dibujo, 1, false);
+    const auto desconocida = ventana.lineas;
+    casa.ventana("Izquierda").Distancia = 0;
+    ColocaVentana(casa.dibujo, 1, false);
+    EXPECT_EQ(desconocida, ventana.lineas);
+    EXPECT_EQ(desconocida[0].X1, casa.pared().lineas[0].X1);
+}
+
 TEST(VentanaLineas, LaMayorQueSuParedPasaDeSusExtremos) {
     Casa casa("Tabique", 0, 1);
     casa.ventana().Longitud = 9000;

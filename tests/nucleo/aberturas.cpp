@@ -368,6 +368,22 @@ TEST(AberturasPinza, EnLosModosDeEsperaSoloSeSenalaYPasaDelante) {
     }
 }
 
+TEST(AberturasPinza, EnLosModosDeEsperaElDobleClicNoAbreSuDialogo) {
+    for (const char* boton : {"Esquina", "Union", "Separar"}) {
+        Casa casa;
+        casa.ponMuro();
+        casa.ponVentana(1);
+        casa.ponPuerta(1);
+        casa.boton(boton);
+        const Modo modo = casa.modo();
+        casa.dobleClic(casa.enVentana(1));
+        casa.dobleClic(casa.enPuerta(1));
+        EXPECT_EQ(casa.plataforma.dialogosDeVentana, 1) << "the one when it was set";
+        EXPECT_EQ(casa.plataforma.dialogosDePuerta, 1);
+        EXPECT_EQ(casa.modo(), modo);
+    }
+}
+
 TEST(AberturasPinza, MientrasEsperaUnaDeSuClaseNoSeSenala) {
     Casa casa;
     casa.ponMuro();

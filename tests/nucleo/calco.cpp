@@ -53,6 +53,16 @@ TEST(Calco, RepiteLoDibujadoConSusRellenos) {
                                         "Ellipse 5 6 2 0.5 00FF00", "FillStyle 1", "FillColor 000000"}));
 }
 
+TEST(Calco, DeUnTextoNoQuedaNada) {
+    Dibujo dibujo;
+    TextoLibre& texto = dibujo.TextoLibre.crear(1);
+    texto.Text = "Salón";
+    texto.Visible = true;
+    Calcadora calcadora;
+    DibujarElemento({.superficie = calcadora}, dibujo, Clase::TextoLibre, 1);
+    EXPECT_EQ(calcadora.calco(), Calco{});
+}
+
 TEST(Calco, LaTintaCambiaTrazosYFondos) {
     Calcadora calcadora;
     calcadora.FillStyle(Relleno::solido);

@@ -379,6 +379,15 @@ TEST_F(Textos, ElCampoYElMarcoSiguenALoEscrito) {
     EXPECT_EQ(banco.marco().recuadro.Width, 590);
 }
 
+TEST_F(Textos, EscribirLoMismoNoRepintaNada) {
+    banco.boton("Texto");
+    banco.bosquel.escribirTexto("Sala");
+    const std::size_t repintados = banco.plataforma.repintados.size();
+    banco.bosquel.escribirTexto("Sala");
+    EXPECT_EQ(banco.plataforma.repintados.size(), repintados);
+    EXPECT_EQ(texto(1).Text, "Sala");
+}
+
 TEST_F(Textos, ElQueQuedaVacioTomaUnNombre) {
     for (int i = 1; i <= 3; ++i)
         banco.boton("Texto");

@@ -205,7 +205,7 @@ TEST(Guardar, SinMemoriaParaEscribirAcabaComoSiempreSinArchivo) {
         const bool comoSiempre = banco.plataforma.titulo() == " - Bosquel Rapiz" &&
                                  banco.plataforma.mensajes.size() == 1 && !banco.plataforma.relojDeArena() &&
                                  !banco.sesion().Ocupado && banco.carpeta.cuantos() == 0;
-        ::_exit(comoSiempre ? 0 : 1);
+        apoyo::terminar(comoSiempre);
     };
     EXPECT_EXIT(guardarSinMemoria(), testing::ExitedWithCode(0), "");
 }

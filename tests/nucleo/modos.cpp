@@ -191,6 +191,9 @@ TEST(Modos, ElAspaSobreLaHojaBajaElBordeElevado) {
     banco.bosquel.cruzarPrincipal(Principal::Nuevo);
     banco.bosquel.cruzarPrincipal(Principal::Salir);
     EXPECT_EQ(banco.sesion().bordeElevado, 9);
+    const int vistas = banco.plataforma.vistas;
+    banco.bosquel.cruzarPrincipal(Principal::Salir);
+    EXPECT_EQ(banco.plataforma.vistas, vistas) << "it is raised already";
     banco.bosquel.cruzarVentana();
     EXPECT_EQ(banco.sesion().bordeElevado, -1);
 }

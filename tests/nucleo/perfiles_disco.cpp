@@ -172,4 +172,10 @@ TEST_F(DiscoPerfil, UnArchivoSePuedeMover) {
     ArchivoPerfil otro(std::move(uno));
     otro.volcar();
     EXPECT_EQ(leer("s", "k"), "1");
+
+    ArchivoPerfil tercero(carpeta_ / "tercero.ini");
+    tercero = std::move(otro);
+    tercero.guardar("s", "k", "2");
+    tercero.volcar();
+    EXPECT_EQ(leer("s", "k"), "2");
 }

@@ -65,6 +65,17 @@ TEST(Relaciones, CadaBotonPoneSuModoYElCursorDeElegir) {
     }
 }
 
+TEST(Relaciones, UnBotonQueNoHayNoPoneNingunModo) {
+    Banco banco;
+    banco.ponMuro();
+    for (const int indice : {-1, 4}) {
+        banco.bosquel.pulsarOperacion(indice);
+        EXPECT_EQ(banco.modo(), Modo::Aspa);
+        EXPECT_EQ(banco.plataforma.cursor(), Cursor::Cruz);
+        EXPECT_EQ(banco.colorDe(1), rojo) << "the selection stays";
+    }
+}
+
 TEST(Relaciones, EsperanAQueTermineElAutoguardado) {
     Banco banco;
     banco.sesion().GuardandoAuto = true;
@@ -201,6 +212,19 @@ TEST(Union, FueraDeAmbasConSiEsUnaEsquina) {
     comparar(banco.dibujo(), plano);
     EXPECT_EQ(banco.pared(1).NumeroGrupo, 1);
     EXPECT_EQ(banco.dibujo().Pared.contador, 3);
+}
+
+TEST_P(HerramientaDeDos, SiLaPrimeraParedYaNoEstaNadaSeDiceNiSeCorta) {
+    Banco banco;
+    ponCruz(banco);
+    banco.boton(GetParam());
+    banco.clic(banco.medio(1));
+    banco.dibujo().Pared.quitar(1);
+    const PlanoDeReferencia plano(banco.dibujo());
+    banco.clic(banco.medio(2));
+    EXPECT_TRUE(banco.plataforma.mensajes.empty());
+    comparar(banco.dibujo(), plano);
+    EXPECT_EQ(banco.modo(), Modo::Aspa);
 }
 
 TEST(Esquina, TrasLaEsquinaElDobleClicPreguntaSiDesagrupa) {
