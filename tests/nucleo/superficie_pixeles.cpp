@@ -88,6 +88,14 @@ TEST_F(EnPixeles, LoQueNingunPapelAlcanzaSeRecorta) {
         EXPECT_TRUE(en(x, 24) == Trama::pixel(negro) && en(x, 26) == Trama::pixel(negro)) << x;
 }
 
+TEST_F(EnPixeles, SusPixelesEstanParaQuienLosPinteUnoAUno) {
+    const LugarPixeles lugar = hoja.enPixeles(3, 4);
+    hoja.trama().punto(pixelEntero(lugar.x), pixelEntero(lugar.y), Trama::pixel(rojo));
+    EXPECT_EQ(en(10 + static_cast<int>(3 * hoja.escala()), 10 + static_cast<int>(4 * hoja.escala())),
+              Trama::pixel(rojo));
+    EXPECT_EQ(cuantos(papel), lado * lado - 1);
+}
+
 TEST(Recortar, UnaLineaConservaSuRumbo) {
     const auto tramo = recortar({-1e6, -2e6 + 30}, {1e6, 2e6 + 30});
     ASSERT_TRUE(tramo);

@@ -96,31 +96,20 @@ TEST_F(TramaDePixeles, UnMarcoTieneSusCuatroLados) {
 }
 
 TEST_F(TramaDePixeles, UnaLineaTieneElPixelMasCercanoEnCadaColumnaOFila) {
-    for (const auto& [dx, dy] : {std::pair{40, 0},
-                                 {0, 40},
-                                 {40, 13},
-                                 {13, 40},
-                                 {40, -13},
-                                 {-13, 40},
-                                 {-40, -13},
-                                 {-13, -40},
-                                 {30, 30},
-                                 {-30, 30},
-                                 {40, 1},
-                                 {1, 40},
-                                 {0, 0},
-                                 {6, 3},
-                                 {3, 6}}) {
+    const std::vector<Punto> pasos{{40, 0},   {0, 40},    {40, 13},   {13, 40}, {40, -13},
+                                   {-13, 40}, {-40, -13}, {-13, -40}, {30, 30}, {-30, 30},
+                                   {40, 1},   {1, 40},    {6, 3},     {3, 6}};
+    for (const Punto& paso : pasos) {
+        const int dx = paso.first;
+        const int dy = paso.second;
         const int x1 = dx < 0 ? 50 : 8;
         const int y1 = dy < 0 ? 50 : 8;
         const auto puntos = dibujado([&](Trama& hoja) { hoja.linea(x1, y1, x1 + dx, y1 + dy, tinta); });
         const bool tumbada = std::abs(dx) >= std::abs(dy);
         ASSERT_EQ(puntos.size(), static_cast<std::size_t>(std::max(std::abs(dx), std::abs(dy)) + 1));
         for (const auto& [x, y] : puntos) {
-            const double exacto =
-                tumbada ? y1 + (x - x1) * dy / std::max<double>(std::abs(dx), 1) * (dx < 0 ? -1 : 1)
-                        : x1 + (y - y1) * dx / static_cast<double>(std::abs(dy)) * (dy < 0 ? -1 : 1);
-            EXPECT_LE(std::abs((tumbada ? y : x) - exacto), 0.5) << dx << " " << dy;
+            const double exacto = tumbada ? y1 + (x - x1) * (1.0 * dy / dx) : x1 + (y - y1) * (1.0 * dx / dy);
+            EXPECT_LE(std::abs((tumbada ? y : x) - exacto), 0.5 + 1e-9) << dx << " " << dy;
         }
         EXPECT_TRUE(puntos.contains({x1, y1}) && puntos.contains({x1 + dx, y1 + dy})) << dx << " " << dy;
     }
