@@ -22,7 +22,7 @@ void porPasos(int a1, int b1, int a2, int b2, int desde, int hasta, Poner poner)
     // After i steps `b` has come as many pixels as 2 * i * subida + pasos holds 2 * pasos.
     const std::int64_t pasos = std::max(a2 - a1, 1);
     const std::int64_t subida = b2 - b1;
-    const std::int64_t dividendo = 2 * (primero - a1) * subida + pasos;
+    const std::int64_t dividendo = 2 * std::int64_t{primero - a1} * subida + pasos;
     const std::int64_t hechos = dividendo / (2 * pasos) - (dividendo % (2 * pasos) < 0 ? 1 : 0);
     std::int64_t resto = dividendo - hechos * 2 * pasos;
     int b = b1 + static_cast<int>(hechos);

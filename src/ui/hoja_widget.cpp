@@ -133,7 +133,7 @@ void HojaWidget::actualizarFondo() {
 QImage HojaWidget::enFondo(const QRect& pixeles) const {
     const QPoint primero = pixeles.topLeft() - pixeles_.topLeft();
     const uchar* fila = fondo_.constScanLine(primero.y());
-    return {fila + primero.x() * static_cast<int>(sizeof(QRgb)), pixeles.width(), pixeles.height(),
+    return {fila + static_cast<std::size_t>(primero.x()) * sizeof(QRgb), pixeles.width(), pixeles.height(),
             fondo_.bytesPerLine(), fondo_.format()};
 }
 

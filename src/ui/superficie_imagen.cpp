@@ -18,7 +18,7 @@ ZonaPixeles zonaDe(const QRect& rect) {
 Trama tramaDe(QImage& imagen, QPoint esquina, const QRect& zona) {
     const QRect suya = imagen.rect().translated(esquina) & zona;
     // A picture that shares its pixels takes its own here, in rows of a length of its own.
-    auto* pixeles = reinterpret_cast<Trama::Pixel*>(imagen.bits());
+    auto* pixeles = static_cast<Trama::Pixel*>(static_cast<void*>(imagen.bits()));
     const auto salto = imagen.bytesPerLine() / static_cast<qsizetype>(sizeof(Trama::Pixel));
     const QPoint primero = suya.topLeft() - esquina;
     return {pixeles + primero.y() * salto + primero.x(), salto, zonaDe(suya)};
