@@ -3,6 +3,8 @@
 #include <QRadioButton>
 #include <array>
 
+class QImage;
+
 class QButtonGroup;
 
 namespace bosquel {
