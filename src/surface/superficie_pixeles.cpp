@@ -26,8 +26,7 @@ TramoPixeles enteros(LugarPixeles desde, LugarPixeles hasta) {
 }  // namespace
 
 int pixelEntero(double coordenada) {
-    const double cerca = std::max<double>(-Trama::lejos, std::min<double>(Trama::lejos, coordenada));
-    return static_cast<int>(cerca < 0 ? cerca - 0.5 : cerca + 0.5);
+    return pixelCercano(std::max<double>(-Trama::lejos, std::min<double>(Trama::lejos, coordenada)));
 }
 
 bool alAlcance(LugarPixeles lugar) {

@@ -19,6 +19,14 @@ ZonaPixeles comun(const ZonaPixeles& una, const ZonaPixeles& otra);
 /// The rectangle with these opposite corners.
 ZonaPixeles entre(int x1, int y1, int x2, int y2);
 
+/// The whole pixel whose middle comes nearest to a coordinate not above 65000, of two the lower or right one:
+/// it is the same one wherever pixels are counted from.
+inline int pixelCercano(double coordenada) {
+    // Above 0 a fraction is cut off downwards.
+    constexpr int encima = 65536;
+    return static_cast<int>(coordenada + encima + 0.5) - encima;
+}
+
 /// A raster to draw on, in memory that belongs to somebody else. Nothing is smoothed: a pixel has the colour
 /// of the stroke, or not. Whatever falls outside of its zone is left out.
 class Trama {

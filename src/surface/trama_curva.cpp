@@ -33,10 +33,6 @@ double cateto(double lado) {
     return std::sqrt(std::max(0.0, 1 - lado * lado));
 }
 
-int entero(double coordenada) {
-    return static_cast<int>(std::floor(coordenada + 0.5));
-}
-
 int techo(double coordenada) {
     return static_cast<int>(std::ceil(coordenada));
 }
@@ -119,8 +115,8 @@ class Recorrido {
     }
 
     void poner(Rumbo rumbo) { trama_.punto(columna(rumbo), fila(rumbo), tinta_); }
-    int columna(Rumbo rumbo) const { return entero(curva_.x + ejeX_ * rumbo.coseno); }
-    int fila(Rumbo rumbo) const { return entero(curva_.y - ejeY_ * rumbo.seno); }
+    int columna(Rumbo rumbo) const { return pixelCercano(curva_.x + ejeX_ * rumbo.coseno); }
+    int fila(Rumbo rumbo) const { return pixelCercano(curva_.y - ejeY_ * rumbo.seno); }
 
     Trama& trama_;
     Trama::Pixel tinta_;

@@ -23,42 +23,46 @@ Recuadro aUnidadesDeHoja(const QRect& zona, double escala) {
     return {zona.x() / escala, zona.y() / escala, zona.width() / escala, zona.height() / escala};
 }
 
-/// The lines of one direction that fall into [desde, hasta], as device pixels.
+/// A picture to paint on, whose pixels are counted from its own corner: a sheet may be too large for them.
+SuperficieImagen superficieDe(QImage& imagen, const LugarHoja& lugar, const QRect& zona) {
+    return {imagen, lugar.escala, SuperficieImagen::Letras::suaves, -QPointF(lugar.esquina),
+            zona.translated(-lugar.esquina)};
+}
+
+/// Calls `linea` with the places of the lines of one direction that fall into [desde, hasta].
 template <class Linea>
-void porLineas(double desde, double hasta, double fin, std::int32_t paso, double escala, Linea linea) {
-    const double ultima = std::min(hasta, fin);
-    for (double n = std::max(0.0, std::ceil(desde / paso)); n * paso <= ultima; ++n)
-        linea(static_cast<int>(std::lround(n * paso * escala)));
+void porLineas(double desde, double hasta, std::int32_t paso, Linea linea) {
+    for (double n = std::max(0.0, std::ceil(desde / paso)); n * paso <= hasta; ++n)
+        linea(n * paso);
 }
 
 /// The grid runs from the sheet's corner to where the sheet ended when it was drawn.
-void pintarCuadricula(Trama& trama, const CuadriculaDibujada& cuadricula, const Recuadro& visible,
-                      double escala) {
+void pintarCuadricula(SuperficieImagen& superficie, const CuadriculaDibujada& cuadricula,
+                      const Recuadro& visible) {
     if (cuadricula.paso <= 0) return;
     const double derecha = std::min(cuadricula.ancho, visible.Left + visible.Width);
     const double abajo = std::min(cuadricula.alto, visible.Top + visible.Height);
-    const int x2 = pixelEntero(derecha * escala);
-    const int y2 = pixelEntero(abajo * escala);
-    const Trama::Pixel tinta = Trama::pixel(colorCuadricula);
-    if (cuadricula.paso * escala < 1) return trama.rellenar({0, 0, x2, y2}, tinta);
-    porLineas(visible.Top, visible.Top + visible.Height, cuadricula.alto, cuadricula.paso, escala,
-              [&](int y) {
-                  trama.rellenar({0, y, x2, y}, tinta);
-              });
-    porLineas(visible.Left, visible.Left + visible.Width, cuadricula.ancho, cuadricula.paso, escala,
-              [&](int x) {
-                  trama.rellenar({x, 0, x, y2}, tinta);
-              });
+    const auto rellenar = [&](double x1, double y1, double x2, double y2) {
+        const LugarPixeles desde = superficie.enPixeles(x1, y1);
+        const LugarPixeles hasta = superficie.enPixeles(x2, y2);
+        superficie.trama().rellenar(
+            {pixelEntero(desde.x), pixelEntero(desde.y), pixelEntero(hasta.x), pixelEntero(hasta.y)},
+            Trama::pixel(colorCuadricula));
+    };
+    if (cuadricula.paso * superficie.escala() < 1) return rellenar(0, 0, derecha, abajo);
+    porLineas(visible.Top, abajo, cuadricula.paso, [&](double y) { rellenar(0, y, derecha, y); });
+    porLineas(visible.Left, derecha, cuadricula.paso, [&](double x) { rellenar(x, 0, x, abajo); });
 }
 
-void pintarPinza(Trama& trama, const Pinza& pinza, double escala) {
-    const int x = pixelEntero(pinza.Left * escala);
-    const int y = pixelEntero(pinza.Top * escala);
-    const int lado = std::max(3, pixelEntero(pinza.Lado * escala));
+void pintarPinza(SuperficieImagen& superficie, const Pinza& pinza) {
+    const LugarPixeles esquina = superficie.enPixeles(pinza.Left, pinza.Top);
+    const int x = pixelEntero(esquina.x);
+    const int y = pixelEntero(esquina.y);
+    const int lado = std::max(3, pixelEntero(pinza.Lado * superficie.escala()));
     const ZonaPixeles entera{x, y, x + lado - 1, y + lado - 1};
-    trama.rellenar(entera, Trama::pixel(bordePinza));
-    trama.rellenar({entera.x1 + 1, entera.y1 + 1, entera.x2 - 1, entera.y2 - 1},
-                   Trama::pixel(pinza.BackColor));
+    superficie.trama().rellenar(entera, Trama::pixel(bordePinza));
+    superficie.trama().rellenar({entera.x1 + 1, entera.y1 + 1, entera.x2 - 1, entera.y2 - 1},
+                                Trama::pixel(pinza.BackColor));
 }
 
 bool enMovimiento(const Dibujo&, const Pared& pared) {
@@ -91,7 +95,7 @@ class Capas {
                          [](const Pieza& a, const Pieza& b) { return a.altura < b.altura; });
         for (const Pieza& pieza : piezas_)
             if (pieza.pinza)
-                pintarPinza(superficie_.trama(), *pieza.pinza, superficie_.escala());
+                pintarPinza(superficie_, *pieza.pinza);
             else
                 pintarElemento(pieza.altura.clase, pieza.altura.indice);
     }
@@ -174,9 +178,9 @@ void pintarVector(SuperficieImagen& superficie, const Segmento& vector) {
 
 void pintarQuieto(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion, const QRect& zona) {
     const Recuadro visible = aUnidadesDeHoja(zona, lugar.escala);
-    SuperficieImagen superficie(imagen, lugar.escala, SuperficieImagen::Letras::suaves, lugar.esquina, zona);
+    SuperficieImagen superficie = superficieDe(imagen, lugar, zona);
     superficie.trama().rellenar(superficie.trama().zona(), Trama::pixel(blanco));
-    pintarCuadricula(superficie.trama(), sesion.cuadricula, visible, lugar.escala);
+    pintarCuadricula(superficie, sesion.cuadricula, visible);
     const Dibujo& dibujo = sesion.dibujo;
     Capas capas(superficie, dibujo);
     const auto anadir = [&](Clase clase, const auto& coleccion) {
@@ -200,8 +204,7 @@ bool hayEncima(const Sesion& sesion) {
 
 void pintarEncima(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion) {
     const Dibujo& dibujo = sesion.dibujo;
-    const QRect zona = imagen.rect().translated(lugar.esquina);
-    SuperficieImagen superficie(imagen, lugar.escala, SuperficieImagen::Letras::suaves, lugar.esquina, zona);
+    SuperficieImagen superficie = superficieDe(imagen, lugar, imagen.rect().translated(lugar.esquina));
     Capas capas(superficie, dibujo);
     for (const auto& [indice, aberturas] : sesion.paredesEnMovimiento) {
         if (const Pared* pared = dibujo.Pared.en(indice)) capas.anadir(Clase::Pared, indice, *pared);

@@ -14,35 +14,26 @@ ZonaPixeles zonaDe(const QRect& rect) {
     return {rect.left(), rect.top(), rect.right(), rect.bottom()};
 }
 
-/// The part `zona` of a picture whose corner is the pixel `esquina`.
-Trama tramaDe(QImage& imagen, QPoint esquina, const QRect& zona) {
-    const QRect suya = imagen.rect().translated(esquina) & zona;
+Trama tramaDe(QImage& imagen, const QRect& zona) {
+    const QRect suya = imagen.rect() & zona;
     // A picture that shares its pixels takes its own here, in rows of a length of its own.
     auto* pixeles = static_cast<Trama::Pixel*>(static_cast<void*>(imagen.bits()));
     const auto salto = imagen.bytesPerLine() / static_cast<qsizetype>(sizeof(Trama::Pixel));
-    const QPoint primero = suya.topLeft() - esquina;
-    return {pixeles + primero.y() * salto + primero.x(), salto, zonaDe(suya)};
+    return {pixeles + suya.y() * salto + suya.x(), salto, zonaDe(suya)};
 }
 
 }  // namespace
 
-SuperficieImagen::SuperficieImagen(QImage& imagen, double escala, Letras letras, QPointF origen)
-    : SuperficiePixeles(tramaDe(imagen, {}, imagen.rect()), escala, {origen.x(), origen.y()}),
-      imagen_(imagen),
-      letras_(letras) {}
-
-SuperficieImagen::SuperficieImagen(QImage& imagen, double escala, Letras letras, QPoint esquina,
+SuperficieImagen::SuperficieImagen(QImage& imagen, double escala, Letras letras, QPointF origen,
                                    const QRect& zona)
-    : SuperficiePixeles(tramaDe(imagen, esquina, zona), escala, {}),
+    : SuperficiePixeles(tramaDe(imagen, zona), escala, {origen.x(), origen.y()}),
       imagen_(imagen),
-      esquina_(esquina),
       letras_(letras) {}
 
 /// Texts are rare, and a painter takes long to begin.
 QPainter& SuperficieImagen::pintor() {
     if (pintor_) return *pintor_;
     pintor_.emplace(&imagen_);
-    pintor_->translate(-esquina_);
     const ZonaPixeles& zona = trama().zona();
     pintor_->setClipRect(QRect(QPoint(zona.x1, zona.y1), QPoint(zona.x2, zona.y2)));
     return *pintor_;

@@ -17,10 +17,10 @@ class SuperficieImagen final : public SuperficiePixeles {
     enum class Letras : bool { enteras, suaves };
 
     /// `escala` pixels to a surface unit; the surface's origin falls on the place `origen` of the picture.
-    SuperficieImagen(QImage& imagen, double escala, Letras letras, QPointF origen = {});
-    /// The pixels are those of a larger picture, from whose corner they are counted and on which the origin
-    /// falls: this one's corner is its pixel `esquina`. Nothing outside of `zona` is drawn on.
-    SuperficieImagen(QImage& imagen, double escala, Letras letras, QPoint esquina, const QRect& zona);
+    SuperficieImagen(QImage& imagen, double escala, Letras letras, QPointF origen = {})
+        : SuperficieImagen(imagen, escala, letras, origen, imagen.rect()) {}
+    /// Nothing outside of `zona` is drawn on.
+    SuperficieImagen(QImage& imagen, double escala, Letras letras, QPointF origen, const QRect& zona);
 
     void CurrentX(double x) override { texto_.x = x; }
     void CurrentY(double y) override { texto_.y = y; }
@@ -33,7 +33,6 @@ class SuperficieImagen final : public SuperficiePixeles {
     void ponerLetra();
 
     QImage& imagen_;
-    QPoint esquina_;
     Letras letras_;
     LugarPixeles texto_;  ///< where the next one stands, in surface units
     Color colorTexto_ = negro;

@@ -416,6 +416,36 @@ TEST(PinturaHoja, UnTrozoPintadoDeNuevoNoCambiaNada) {
     EXPECT_TRUE(aTrozos == entera);
 }
 
+TEST(PinturaHoja, LejosDeLaEsquinaDeUnaHojaEnormeSePintaLoMismo) {
+    const QPoint lejos(100000, 60000);
+    const auto pintada = [](QPoint esquina) {
+        PlataformaMuda plataforma;
+        Sesion sesion(plataforma, {});
+        Dibujo& dibujo = sesion.dibujo;
+        poner(dibujo.MblMesa, 1, esquina.x() + 20, esquina.y() + 20, verdeAzulado);
+        poner(dibujo.MblLavadora, 1, esquina.x() + 90, esquina.y() + 50, rojo);
+        TextoLibre& texto = dibujo.TextoLibre.crear(1);
+        asignar(texto.Left, (esquina.x() + 40) * 15.0);
+        asignar(texto.Top, (esquina.y() + 60) * 15.0);
+        texto.Text = "Salón";
+        texto.Visible = true;
+        Pared& pared = dibujo.Pared.crear(1);
+        asignar(pared.InicialX, (esquina.x() + 10) * 15.0);
+        asignar(pared.InicialY, (esquina.y() + 150) * 15.0);
+        pared.Angulo = 30;
+        DibujaPared(dibujo, 1, false);
+        sesion.cuadricula = {300, 15.0 * 200000, 15.0 * 200000};
+        sesion.RectSel = {{(esquina.x() + 80) * 15.0, (esquina.y() + 40) * 15.0, 900, 600}, true};
+        anunciarTodo(dibujo);
+        sesion.mapa.ponerAlDia(dibujo);
+        QImage imagen = papel();
+        pintarQuieto(imagen, {esquina, escalaHoja}, sesion, imagen.rect().translated(esquina));
+        pintarEncima(imagen, {esquina, escalaHoja}, sesion);
+        return imagen;
+    };
+    EXPECT_EQ(pintada(lejos), pintada({}));
+}
+
 TEST(SuperficieImagen, UnaCajaSinAnchoEsUnTrazo) {
     const QImage imagen =
         pintado([](SuperficieSalida& superficie) { superficie.Caja(50, 20, 50, 80, negro); });
