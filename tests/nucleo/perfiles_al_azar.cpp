@@ -163,11 +163,11 @@ TEST_F(PerfilAlAzar, VariasClavesALaVezDicenLoMismoQueUnaAUna) {
         ArchivoPerfil tanda(ruta_);
         for (int paso = 0; paso < 8; ++paso) {
             const std::string& seccion = uno(secciones);
-            std::vector<std::string_view> claves = llanas;
-            std::shuffle(claves.begin(), claves.end(), azar_);
-            claves.resize(azar_() % (claves.size() + 1));
+            std::vector<std::string_view> juntas = llanas;
+            std::shuffle(juntas.begin(), juntas.end(), azar_);
+            juntas.resize(azar_() % (juntas.size() + 1));
             std::vector<ValorPerfil> nuevos;
-            for (const std::string_view clave : claves) {
+            for (const std::string_view clave : juntas) {
                 const std::string& valor = azar_() % 4 == 0 ? uno(valores) : llano;
                 nuevos.push_back({clave, aUtf8(valor)});
                 modelo.guardar(seccion, std::string(clave), valor);
