@@ -4,11 +4,13 @@
 #include "carpeta.h"
 #include "exigir.h"
 #include "model/windows1252.h"
+#include "persistence/lineas_perfil.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -47,6 +49,31 @@ std::string bytesDe(const fs::path& ruta) {
     return {std::istreambuf_iterator<char>(archivo), {}};
 }
 
+/// The same keys, as far as they are plain, all at once into the section that the bytes begin with.
+void comprobarVarias(const std::vector<std::string>& partes, PerfilIngenuo& modelo, const fs::path& una,
+                     ArchivoPerfil& tanda) {
+    const std::string& seccion = partes[0];
+    std::vector<std::string_view> claves;
+    std::vector<ValorPerfil> valores;
+    for (std::size_t i = 1; i + 2 < partes.size() && i < 3 * muchas; i += 3) {
+        claves.push_back(partes[i + 1]);
+        if (sonLlanas(claves))
+            valores.push_back({partes[i + 1], aUtf8(partes[i + 2])});
+        else
+            claves.pop_back();
+    }
+    for (const auto& [clave, valor] : valores) {
+        modelo.guardar(seccion, std::string(clave), aWindows1252(valor));
+        GuardarIni(una, aUtf8(seccion), clave, valor);
+    }
+    tanda.guardar(aUtf8(seccion), valores);
+    std::vector<std::optional<std::string_view>> leidos(claves.size());
+    tanda.buscar(aUtf8(seccion), claves, leidos);
+    for (std::size_t i = 0; i < claves.size(); ++i)
+        exigir(aWindows1252(leidos[i].value_or(nada)) == modelo.leer(seccion, std::string(claves[i]), nada),
+               "several values are read at once");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t cuantos) {
@@ -74,6 +101,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t cua
         tanda.guardar(aUtf8(seccion), aUtf8(clave), aUtf8(partes[i + 2]));
         comprobar("a value is read after it was written");
     }
+    comprobarVarias(partes, modelo, una, tanda);
     tanda.volcar();
     exigir(bytesDe(una) == modelo.bytes(), "value by value gives the same bytes");
     exigir(bytesDe(otra) == modelo.bytes(), "a batch gives the same bytes");

@@ -1,10 +1,15 @@
 #include "model/cifras.h"
 
+#include "model/numeros.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 namespace bosquel {
@@ -54,6 +59,36 @@ Cifras cientifico(double valor, Precision... precision) {
     return leerCientifico(valor, {sitio.data(), static_cast<std::size_t>(fin - sitio.data())});
 }
 
+double valorDe(const Decimal& decimal) {
+    return static_cast<double>(decimal.numero) / potenciaDeDiez(decimal.decimales);
+}
+
+/// With so many decimals; a half goes up.
+Decimal redondeado(double magnitud, int decimales) {
+    return {static_cast<std::uint64_t>(std::llround(magnitud * potenciaDeDiez(decimales))), decimales};
+}
+
+/// A 32-bit real with a fraction, in so many digits, 7 at most. Times a power of ten up to the last one here
+/// it still has all its bits in 64.
+std::optional<Decimal> decimalSimple(double magnitud, int cuantas) {
+    constexpr int masDecimales = 11;
+    const double menor = potenciaDeDiez(cuantas - 1);
+    for (int decimales = 0; decimales <= masDecimales; ++decimales)
+        if (magnitud * potenciaDeDiez(decimales) >= menor) return redondeado(magnitud, decimales);
+    return std::nullopt;
+}
+
+/// A real of few decimals and so many digits at most: the one that reads back as the value.
+std::optional<Decimal> decimalDoble(double magnitud, int cuantas) {
+    constexpr int pocosDecimales = 3;
+    for (int decimales = 1; decimales <= pocosDecimales; ++decimales) {
+        const Decimal decimal = redondeado(magnitud, decimales);
+        const bool cabe = static_cast<double>(decimal.numero) < potenciaDeDiez(cuantas);
+        if (cabe && valorDe(decimal) == magnitud) return decimal;
+    }
+    return std::nullopt;
+}
+
 /// At least as many digits as a value has, not counting zeros at the end: those before the decimal sign, and
 /// one for each binary place behind it.
 int cifrasDe(double valor) {
@@ -69,6 +104,13 @@ int cifrasDe(double valor) {
 
 Cifras cifrasExactas(double valor) {
     return cientifico(valor, cifrasDe(valor) - 1);
+}
+
+std::optional<Decimal> decimalCorto(double magnitud, int cuantas) {
+    if (!(magnitud < potenciaDeDiez(cuantas) - 1)) return std::nullopt;
+    if (const Decimal entero = redondeado(magnitud, 0); valorDe(entero) == magnitud) return entero;
+    const bool esSimple = cuantas <= cifrasSimple && simple(magnitud) == magnitud;
+    return esSimple ? decimalSimple(magnitud, cuantas) : decimalDoble(magnitud, cuantas);
 }
 
 Cifras primerasCifras(double valor, int cuantas) {

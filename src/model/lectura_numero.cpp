@@ -1,4 +1,5 @@
 #include "model/blancos.h"
+#include "model/cifras.h"
 #include "model/numeros.h"
 #include "model/textos_numero.h"
 
@@ -66,6 +67,32 @@ std::optional<double> valor(const Numero& numero) {
     return orden(numero) > 0 ? std::nullopt : std::optional(0.0);
 }
 
+// As most texts are: up to 15 digits, with a minus sign, a decimal sign or neither. The digits and the power
+// of ten are exact, so that their quotient is rounded but once.
+std::optional<double> leerLlano(std::string_view texto) {
+    const bool menos = texto.starts_with('-');
+    if (menos) texto.remove_prefix(1);
+    std::uint64_t numero = 0;
+    const auto tomarCifras = [&] {
+        std::size_t cuantas = 0;
+        for (; cuantas < texto.size() && texto[cuantas] >= '0' && texto[cuantas] <= '9'; ++cuantas)
+            numero = 10 * numero + static_cast<std::uint64_t>(texto[cuantas] - '0');
+        texto.remove_prefix(cuantas);
+        return static_cast<int>(cuantas);
+    };
+    const int enteras = tomarCifras();
+    int decimales = 0;
+    if (!texto.empty() && texto.front() == separadorDecimal()) {
+        texto.remove_prefix(1);
+        decimales = tomarCifras();
+    }
+    const int cifras = enteras + decimales;
+    if (!texto.empty() || cifras == 0 || cifras > cifrasDoble) return std::nullopt;
+    auto valor = static_cast<double>(numero);
+    if (decimales > 0) valor /= potenciaDeDiez(decimales);
+    return menos ? -valor : valor;
+}
+
 // `decimal` is the place of the decimal sign in the text, or npos. Separators in front of it are grouping.
 std::optional<double> leer(std::string_view texto, std::size_t decimal) {
     const std::size_t letra = std::min(texto.find_first_of(letrasDelExponente), texto.size());
@@ -91,7 +118,8 @@ std::optional<double> leer(std::string_view texto, std::size_t decimal) {
 
 std::optional<double> realDeTexto(std::string_view texto) {
     texto = sinBlancos(texto);
-    return leer(texto, texto.find(separadorDecimal()));
+    const auto llano = leerLlano(texto);
+    return llano ? llano : leer(texto, texto.find(separadorDecimal()));
 }
 
 std::optional<std::int16_t> entero16DeTexto(std::string_view texto) {

@@ -6,14 +6,14 @@
 #include <array>
 #include <charconv>
 #include <clocale>
+#include <cmath>
+#include <cstddef>
 #include <cstdlib>
 
 namespace bosquel {
 
 namespace {
 
-constexpr int cifrasDoble = 15;
-constexpr int cifrasSimple = 7;
 constexpr int menorExponenteLlano = -5;
 constexpr std::size_t millar = 3;
 
@@ -47,7 +47,26 @@ std::string conExponente(const Cifras& numero) {
            (magnitud.size() < 2 ? "0" : "") + magnitud;
 }
 
-std::string textoDeCifras(double valor, int cifras) {
+std::string textoDeDecimal(bool menos, const Decimal& decimal) {
+    constexpr std::size_t sobra = 3;              // both signs and a zero in front
+    std::array<char, cifrasDoble + sobra> sitio;  // NOLINT(*-member-init): the text is all that is read
+    const auto divisor = static_cast<std::uint64_t>(potenciaDeDiez(decimal.decimales));
+    auto* fin = sitio.data();
+    if (menos && decimal.numero > 0) *fin++ = '-';
+    fin = std::to_chars(fin, sitio.end(), decimal.numero / divisor).ptr;
+    if (const std::uint64_t fraccion = decimal.numero % divisor; fraccion > 0) {
+        auto* const signo = fin;
+        fin = std::to_chars(fin, sitio.end(), divisor + fraccion).ptr;  // a one, and all zeros behind it
+        *signo = separadorDecimal();
+        while (*(fin - 1) == '0')
+            --fin;
+    }
+    return {sitio.data(), fin};
+}
+
+std::string textoDeReal(double valor, int cifras) {
+    if (const auto decimal = decimalCorto(std::abs(valor), cifras))
+        return textoDeDecimal(std::signbit(valor), *decimal);
     const Cifras numero = primerasCifras(valor, cifras);
     if (numero.cifras.empty()) return "0";
     const int exponente = numero.punto - 1;
@@ -88,10 +107,10 @@ bool idiomaEspanol() {
 }
 
 std::string textoReal(double valor) {
-    return textoDeCifras(valor, cifrasDoble);
+    return textoDeReal(valor, cifrasDoble);
 }
 std::string textoReal(float valor) {
-    return textoDeCifras(valor, cifrasSimple);
+    return textoDeReal(valor, cifrasSimple);
 }
 
 std::string textoEntero(std::int32_t valor) {

@@ -84,23 +84,12 @@ void anadirUtf8(std::string& texto, char32_t c) {
     }
 }
 
-constexpr std::array<char, 256> minusculas = [] {
-    std::array<char, 256> tabla{};
-    const auto par = [&tabla](int mayuscula, int minuscula) {
-        tabla[static_cast<std::size_t>(mayuscula)] = static_cast<char>(minuscula);
-    };
-    for (int i = 0; i < 256; ++i)
-        par(i, i);
-    for (int i = 'A'; i <= 'Z'; ++i)
-        par(i, i + 0x20);
-    for (int i = 0xC0; i <= 0xDE; ++i)
-        par(i, i + 0x20);
-    par(0xD7, 0xD7);  // the sign of multiplication, in the midst of the letters
-    for (const int i : {0x8A, 0x8C, 0x8E})
-        par(i, i + 0x10);
-    par(0x9F, 0xFF);
-    return tabla;
-}();
+bool esAscii(std::string_view texto) {
+    std::uint8_t bits = 0;
+    for (const char c : texto)
+        bits |= octeto(c);
+    return bits < primeroPropio;
+}
 
 }  // namespace
 
@@ -120,13 +109,12 @@ std::string aUtf8(std::string_view bytes) {
     return utf8;
 }
 
-char enMinuscula(char byte) {
-    return minusculas[octeto(byte)];
+std::string_view aWindows1252(std::string_view utf8, std::string& sitio) {
+    return esAscii(utf8) ? utf8 : sitio = aWindows1252(utf8);
 }
 
-bool mismoNombre(std::string_view uno, std::string_view otro) {
-    return std::equal(uno.begin(), uno.end(), otro.begin(), otro.end(),
-                      [](char a, char b) { return enMinuscula(a) == enMinuscula(b); });
+std::string_view aUtf8(std::string_view bytes, std::string& sitio) {
+    return esAscii(bytes) ? bytes : sitio = aUtf8(bytes);
 }
 
 }  // namespace bosquel

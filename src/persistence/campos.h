@@ -1,11 +1,16 @@
 #pragma once
 
 #include "model/textos_numero.h"
+#include "persistence/lineas_perfil.h"
 #include "persistence/perfiles.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -112,31 +117,68 @@ Campo(std::string_view, Acceso, std::optional<std::string_view>, FormaPropia) ->
 template <class FormaPropia, class Valor>
 using FormaDe = std::conditional_t<std::is_same_v<FormaPropia, SegunTipo>, Forma<Valor>, FormaPropia>;
 
-/// Writes all rows of a table, in their order.
-template <class Objeto, class... Filas>
-void escribirCampos(ArchivoPerfil& archivo, std::string_view seccion, const Objeto& objeto,
-                    const std::tuple<Filas...>& tabla) {
-    const auto escribir = [&]<class A, class F>(const Campo<A, F>& campo) {
-        const auto& valor = std::invoke(campo.acceso, objeto);
-        using Valor = std::remove_cvref_t<decltype(valor)>;
-        archivo.guardar(seccion, campo.clave, FormaDe<F, Valor>::texto(valor));
-    };
-    std::apply([&](const auto&... campo) { (escribir(campo), ...); }, tabla);
+/// The keys of a table, in the order of its rows.
+template <const auto& tabla>
+inline constexpr auto clavesDe = std::apply([](const auto&... campo) { return std::array{campo.clave...}; },
+                                            tabla);
+
+/// What a section holds for some rows, in their order.
+using VistaTextos = std::span<const std::optional<std::string_view>>;
+
+/// The same for all rows of a table.
+template <const auto& tabla>
+using Textos = std::array<std::optional<std::string_view>, clavesDe<tabla>.size()>;
+
+/// Good until the file is asked for anything else.
+template <const auto& tabla>
+Textos<tabla> textosDe(const ArchivoPerfil& archivo, std::string_view seccion) {
+    static_assert(sonLlanas(clavesDe<tabla>));
+    Textos<tabla> textos;
+    archivo.buscar(seccion, clavesDe<tabla>, textos);
+    return textos;
 }
 
-/// Reads all rows of a table, in their order.
-template <class Objeto, class... Filas>
-void leerCampos(const ArchivoPerfil& archivo, std::string_view seccion, Objeto& objeto,
-                const std::tuple<Filas...>& tabla) {
-    const auto leer = [&]<class A, class F>(const Campo<A, F>& campo) {
+/// That of the row with a key.
+template <const auto& tabla>
+const std::optional<std::string_view>& textoDe(const Textos<tabla>& textos, std::string_view clave) {
+    return textos.at(
+        static_cast<std::size_t>(std::ranges::find(clavesDe<tabla>, clave) - clavesDe<tabla>.begin()));
+}
+
+/// Reads all rows of a table, in their order, the first of them from the first text.
+template <const auto& tabla, class Objeto>
+void leerCampos(VistaTextos textos, Objeto& objeto) {
+    const auto leer = [&]<class A, class F>(const Campo<A, F>& campo,
+                                            const std::optional<std::string_view>& texto) {
         auto& valor = std::invoke(campo.acceso, objeto);
         using Valor = std::remove_cvref_t<decltype(valor)>;
-        auto texto = archivo.buscar(seccion, campo.clave);
-        if (!texto)
-            texto = campo.predeterminado ? std::string(*campo.predeterminado) : Forma<Valor>::texto(valor);
-        FormaDe<F, Valor>::leer(*texto, valor);
+        using Suya = FormaDe<F, Valor>;
+        if (texto)
+            Suya::leer(*texto, valor);
+        else if (campo.predeterminado)
+            Suya::leer(*campo.predeterminado, valor);
+        else
+            Suya::leer(Forma<Valor>::texto(valor), valor);
     };
-    std::apply([&](const auto&... campo) { (leer(campo), ...); }, tabla);
+    auto texto = textos.begin();
+    std::apply([&](const auto&... campo) { (leer(campo, *texto++), ...); }, tabla);
+}
+
+template <const auto& tabla, class Objeto>
+void leerCampos(const ArchivoPerfil& archivo, std::string_view seccion, Objeto& objeto) {
+    leerCampos<tabla>(textosDe<tabla>(archivo, seccion), objeto);
+}
+
+/// Writes all rows of a table, in their order.
+template <const auto& tabla, class Objeto>
+void escribirCampos(ArchivoPerfil& archivo, std::string_view seccion, const Objeto& objeto) {
+    static_assert(sonLlanas(clavesDe<tabla>));
+    const auto valor = [&]<class A, class F>(const Campo<A, F>& campo) {
+        const auto& suyo = std::invoke(campo.acceso, objeto);
+        using Valor = std::remove_cvref_t<decltype(suyo)>;
+        return ValorPerfil{campo.clave, FormaDe<F, Valor>::texto(suyo)};
+    };
+    std::apply([&](const auto&... campo) { archivo.guardar(seccion, std::array{valor(campo)...}); }, tabla);
 }
 
 }  // namespace bosquel

@@ -5,16 +5,6 @@ namespace bosquel {
 
 namespace {
 
-template <class T>
-void escribir(ArchivoPerfil& archivo, const std::string& seccion, const T& elemento) {
-    escribirCampos(archivo, seccion, elemento, camposDe<T>);
-}
-
-void escribir(ArchivoPerfil& archivo, const std::string& seccion, const Pared& pared) {
-    escribirCampos(archivo, seccion, pared, camposDe<Pared>);
-    escribirCampos(archivo, seccion, pared, camposLineasPared);
-}
-
 /// The last index that is written. The counter of stairs is not the next index but the last one given.
 int ultimoIndice(Clase clase, std::int16_t contador) {
     return contador - (clase == Clase::Escalera ? 0 : 1);
@@ -23,18 +13,18 @@ int ultimoIndice(Clase clase, std::int16_t contador) {
 }  // namespace
 
 void escribirDibujo(ArchivoPerfil& archivo, const Dibujo& dibujo) {
-    escribirCampos(archivo, seccionCabecera, dibujo, camposHoja);
+    escribirCampos<camposHoja>(archivo, seccionCabecera, dibujo);
     porContadores(dibujo, [&](std::string_view clave, std::int16_t contador) {
         archivo.guardar(seccionCabecera, clave, textoEntero(contador));
     });
-    escribirCampos(archivo, seccionCabecera, dibujo, camposModelos);
-    escribirCampos(archivo, seccionColores, dibujo, camposColores);
+    escribirCampos<camposModelos>(archivo, seccionCabecera, dibujo);
+    escribirCampos<camposColores>(archivo, seccionColores, dibujo);
     for (const DatosClase& fila : todasLasClases())
         conColeccion(dibujo, fila.clase, [&](const auto& coleccion) {
-            coleccion.recorrer(0, ultimoIndice(fila.clase, coleccion.contador),
-                               [&](int indice, const auto& elemento) {
-                                   escribir(archivo, seccionDe(fila.clase, indice), elemento);
-                               });
+            coleccion.recorrer(
+                0, ultimoIndice(fila.clase, coleccion.contador), [&]<class T>(int indice, const T& elemento) {
+                    escribirCampos<camposDeSeccion<T>>(archivo, seccionDe(fila.clase, indice), elemento);
+                });
         });
 }
 

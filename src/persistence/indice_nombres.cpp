@@ -1,22 +1,50 @@
 #include "persistence/indice_nombres.h"
 
 #include "model/windows1252.h"
+#include "persistence/lineas_perfil.h"
 
+#include <random>
 #include <utility>
 
 namespace bosquel {
 
 namespace {
 
-/// FNV-1a over the small letters.
+constexpr std::size_t letrasPorPaso = sizeof(std::uint64_t);
+
+std::uint64_t semilla() {
+    static const std::uint64_t una = [] {
+        std::random_device azar;
+        return std::uint64_t{azar()} << 32U | azar();
+    }();
+    return una;
+}
+
+/// The first eight letters as a number, in small letters.
+std::uint64_t palabra(std::string_view letras) {
+    std::uint64_t numero = 0;
+    for (const char c : letras.substr(0, letrasPorPaso))
+        numero = numero << 8U | static_cast<unsigned char>(enMinuscula(c));
+    return numero;
+}
+
 std::uint32_t huellaDe(std::string_view nombre) {
-    std::uint64_t suma = 0xCBF29CE484222325U;
-    for (const char c : nombre)
-        suma = (suma ^ static_cast<unsigned char>(enMinuscula(c))) * 0x100000001B3U;
-    return static_cast<std::uint32_t>(suma ^ (suma >> 32U));
+    constexpr std::uint64_t impar = 0x9E3779B97F4A7C15U;
+    std::uint64_t suma = semilla() + nombre.size();
+    for (std::size_t i = 0; i < nombre.size(); i += letrasPorPaso) {
+        suma = (suma ^ palabra(nombre.substr(i))) * impar;
+        suma ^= suma >> 32U;
+    }
+    return static_cast<std::uint32_t>((suma * impar) >> 32U);
+}
+
+std::string_view nombreEn(std::string_view texto, std::size_t lugar) {
+    return nombre(leerLinea(texto, lugar).nombre);
 }
 
 }  // namespace
+
+NombreBuscado::NombreBuscado(std::string_view nombre) : texto(nombre), huella(huellaDe(nombre)) {}
 
 /// The first square from that of its print on that is free, or of which `vale(casilla)` is true.
 template <class Vale>
@@ -29,24 +57,21 @@ std::size_t IndiceNombres::casillaDe(std::uint32_t huella, Vale vale) const {
 }
 
 /// The square where the name stands, or else the free one where it would.
-std::size_t IndiceNombres::casillaDe(std::string_view texto, std::string_view nombre,
-                                     std::uint32_t huella) const {
-    return casillaDe(huella, [&](const Casilla& casilla) {
-        return casilla.huella == huella && mismoNombre(nombreEn_(texto, casilla.lugar), nombre);
+std::size_t IndiceNombres::casillaDe(std::string_view texto, const NombreBuscado& nombre) const {
+    return casillaDe(nombre.huella, [&](const Casilla& casilla) {
+        return casilla.huella == nombre.huella && mismoNombre(nombreEn(texto, casilla.lugar), nombre.texto);
     });
 }
 
-std::optional<std::size_t> IndiceNombres::buscar(std::string_view texto, std::string_view nombre) const {
-    const Casilla& casilla = casillas_[casillaDe(texto, nombre, huellaDe(nombre))];
+std::optional<std::size_t> IndiceNombres::buscar(std::string_view texto, const NombreBuscado& nombre) const {
+    const Casilla& casilla = casillas_[casillaDe(texto, nombre)];
     return casilla.lugar == libre ? std::nullopt : std::optional<std::size_t>(casilla.lugar);
 }
 
-void IndiceNombres::anadir(std::string_view texto, std::size_t lugar) {
-    const std::string_view nombre = nombreEn_(texto, lugar);
-    const std::uint32_t huella = huellaDe(nombre);
-    Casilla& casilla = casillas_[casillaDe(texto, nombre, huella)];
+void IndiceNombres::anadir(std::string_view texto, const NombreBuscado& nombre, std::size_t lugar) {
+    Casilla& casilla = casillas_[casillaDe(texto, nombre)];
     if (casilla.lugar != libre) return;
-    casilla = {static_cast<std::uint32_t>(lugar), huella};
+    casilla = {static_cast<std::uint32_t>(lugar), nombre.huella};
     if (++ocupadas_ > casillas_.size() / 4 * 3) crecer();
 }
 

@@ -8,17 +8,23 @@
 
 namespace bosquel {
 
-/// Where names stand in a text, found without regard to case; of two like names the first counts. It keeps
-/// places alone and reads the names in the text, so that a file full of names costs little more than itself.
+/// A name that is looked for, with its print: the same for all its spellings in capitals and small letters.
+/// Each run of the program has prints of its own, so that no file can hold names that are made to collide.
+struct NombreBuscado {
+    explicit NombreBuscado(std::string_view nombre);
+
+    std::string_view texto;
+    std::uint32_t huella;
+};
+
+/// The lines in which names stand, of sections or of keys, found without regard to case; of two like names
+/// the first counts. It keeps places alone and reads the names in the text, so that a file full of names
+/// costs little more than itself.
 class IndiceNombres {
   public:
-    /// Gives the name that stands at a place of a text.
-    using NombreEn = std::string_view (*)(std::string_view texto, std::size_t lugar);
-
-    explicit IndiceNombres(NombreEn nombreEn) : nombreEn_(nombreEn), casillas_(alPrincipio) {}
-
-    std::optional<std::size_t> buscar(std::string_view texto, std::string_view nombre) const;
-    void anadir(std::string_view texto, std::size_t lugar);
+    std::optional<std::size_t> buscar(std::string_view texto, const NombreBuscado& nombre) const;
+    /// The name stands in the line at the place, unless it is known to stand elsewhere.
+    void anadir(std::string_view texto, const NombreBuscado& nombre, std::size_t lugar);
     /// All names from `desde` on stand `pasos` further on in the text.
     void desplazar(std::size_t desde, std::size_t pasos);
     void vaciar();
@@ -38,11 +44,11 @@ class IndiceNombres {
 
     template <class Vale>
     std::size_t casillaDe(std::uint32_t huella, Vale vale) const;
-    std::size_t casillaDe(std::string_view texto, std::string_view nombre, std::uint32_t huella) const;
+    std::size_t casillaDe(std::string_view texto, const NombreBuscado& nombre) const;
     void crecer();
 
-    NombreEn nombreEn_;
-    std::vector<Casilla> casillas_;  ///< never more than three quarters full
+    std::vector<Casilla> casillas_ =
+        std::vector<Casilla>(alPrincipio);  ///< never more than three quarters full
     std::size_t ocupadas_ = 0;
 };
 

@@ -55,60 +55,62 @@ class Lectura {
     template <class T>
     void leer(Clase clase, Coleccion<T>& coleccion) const {
         for (int i = 0; i <= ultimoIndice(clase, coleccion.contador); ++i) {
-            const std::string seccion = seccionDe(clase, i);
-            if (falta<T>(seccion)) continue;
+            const auto textos = textosDe<camposDeSeccion<T>>(archivo_, seccionDe(clase, i));
+            if (falta<T>(textos)) continue;
             T& elemento = i > 0 ? coleccion.crear(i) : coleccion.modelo();
-            leerCampos(archivo_, seccion, elemento, camposDe<T>);
-            terminar(seccion, i, elemento);
+            leerCampos<camposDe<T>>(textos, elemento);
+            terminar(textos, i, elemento);
         }
     }
 
   private:
     template <class T>
-    bool falta(const std::string& seccion) const {
-        const auto texto = archivo_.buscar(seccion, claveDePrueba<T>);
+    static bool falta(const Textos<camposDeSeccion<T>>& textos) {
+        const auto& texto = textoDe<camposDeSeccion<T>>(textos, claveDePrueba<T>);
         return !texto || realDeTexto(*texto) == deNinguno;
     }
 
     template <class T>
     void leerElemento(const std::string& seccion, T& elemento) const {
-        leerCampos(archivo_, seccion, elemento, camposDe<T>);
+        leerCampos<camposDe<T>>(archivo_, seccion, elemento);
     }
 
     /// The table takes the zoom of the drawing where its section tells none.
     void leerElemento(const std::string& seccion, MblMesa& mesa) const {
-        if (!archivo_.buscar(seccion, campoFactorZOOM.clave)) mesa.FactorZOOM = dibujo_.FactorZoomActual;
-        leerCampos(archivo_, seccion, mesa, camposDe<MblMesa>);
+        const auto textos = textosDe<camposDe<MblMesa>>(archivo_, seccion);
+        if (!textoDe<camposDe<MblMesa>>(textos, campoFactorZOOM.clave))
+            mesa.FactorZOOM = dibujo_.FactorZoomActual;
+        leerCampos<camposDe<MblMesa>>(textos, mesa);
     }
 
     void leerElemento(const std::string& seccion, Electrico& electrico) const {
-        leerCampos(archivo_, seccion, electrico, camposDe<Electrico>);
+        leerCampos<camposDe<Electrico>>(archivo_, seccion, electrico);
         ponerSimbolo(electrico, std::string(electrico.ObjectType));
     }
 
-    void terminar(const std::string& seccion, int indice, Pared& pared) const {
+    void terminar(VistaTextos textos, int indice, Pared& pared) const {
         if (indice == 0) return;
         DibujaPared(dibujo_, indice, true);
         DeseleccionaPared(dibujo_, indice);
-        leerCampos(archivo_, seccion, pared, camposLineasPared);
+        leerCampos<camposLineasPared>(textos.subspan(clavesDe<camposDe<Pared>>.size()), pared);
         RecuperaLineasPared(dibujo_, indice);
         ReconstruyePared(dibujo_, indice);
         GuardaLineasPared(dibujo_, indice);
     }
 
-    void terminar(const std::string&, int indice, const Ventana&) const {
+    void terminar(VistaTextos, int indice, const Ventana&) const {
         if (indice == 0) return;
         ColocaVentana(dibujo_, indice, true);
         DeseleccionaVentana(dibujo_, indice);
     }
 
-    void terminar(const std::string&, int indice, const Puerta&) const {
+    void terminar(VistaTextos, int indice, const Puerta&) const {
         if (indice == 0) return;
         ColocaPuerta(dibujo_, indice, true);
         DeseleccionaPuerta(dibujo_, indice);
     }
 
-    void terminar(const std::string&, int indice, TextoLibre& texto) const {
+    void terminar(VistaTextos, int indice, TextoLibre& texto) const {
         asignar(texto.FontSize, 12 * dibujo_.FactorZoomActual);
         texto.Visible = indice > 0;
     }
@@ -120,13 +122,13 @@ class Lectura {
 }  // namespace
 
 void leerCabecera(const ArchivoPerfil& archivo, Dibujo& dibujo) {
-    leerCampos(archivo, seccionCabecera, dibujo, camposHoja);
+    leerCampos<camposHoja>(archivo, seccionCabecera, dibujo);
     porContadores(dibujo, [&](std::string_view clave, std::int16_t& contador) {
         contador = entero16DeTexto(archivo.leer(seccionCabecera, clave, "1")).value_or(contador);
     });
-    leerCampos(archivo, seccionColores, dibujo, camposColores);
-    leerCampos(archivo, seccionCabecera, dibujo, camposModelos);
-    leerCampos(archivo, seccionCabecera, dibujo, camposModeloVentana);
+    leerCampos<camposColores>(archivo, seccionColores, dibujo);
+    leerCampos<camposModelos>(archivo, seccionCabecera, dibujo);
+    leerCampos<camposModeloVentana>(archivo, seccionCabecera, dibujo);
 }
 
 void leerElementos(const ArchivoPerfil& archivo, Dibujo& dibujo) {

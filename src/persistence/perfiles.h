@@ -3,10 +3,17 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace bosquel {
+
+/// A key and what it is to hold.
+struct ValorPerfil {
+    std::string_view clave;
+    std::string valor;
+};
 
 /// One profile file: lines of text in sections, the classic INI layout, in Windows-1252 on disk and in UTF-8
 /// to the caller. The rules of the format stand in docs/perfiles.md. The image of the file is read and parsed
@@ -24,8 +31,13 @@ class ArchivoPerfil {
     bool haySeccion(std::string_view seccion) const;
 
     /// The value of the key, or nothing where the section or the key is missing or the value is empty: the
-    /// caller's default then stands. A value is cut at 254 characters.
-    std::optional<std::string> buscar(std::string_view seccion, std::string_view clave) const;
+    /// caller's default then stands. A value is cut at 254 characters. It is good until the next call.
+    std::optional<std::string_view> buscar(std::string_view seccion, std::string_view clave) const;
+
+    /// The same for several keys, in one pass through the section. They are plain and differ from each other
+    /// (`sonLlanas`).
+    void buscar(std::string_view seccion, std::span<const std::string_view> claves,
+                std::span<std::optional<std::string_view>> valores) const;
 
     /// The value of the key, or the default whole, as it stands.
     std::string leer(std::string_view seccion, std::string_view clave,
@@ -34,6 +46,9 @@ class ArchivoPerfil {
     /// Replaces the value in its place, or adds the line at the end of its section, or the section at the
     /// end of the file.
     void guardar(std::string_view seccion, std::string_view clave, std::string_view valor);
+
+    /// The same for several keys, one after the other, which are plain and differ from each other.
+    void guardar(std::string_view seccion, std::span<const ValorPerfil> valores);
 
     /// Writes the whole file to a temporary name beside it, flushes it and renames it, so that a file written
     /// by halves never exists. Does nothing if nothing was changed. A failure says nothing and leaves what

@@ -171,6 +171,8 @@ inline constexpr std::tuple camposLineasPared{
     Campo{"Visible2", &Pared::Visible2, "Verdadero"},
 };
 
+inline constexpr auto camposParedEntera = std::tuple_cat(camposDe<Pared>, camposLineasPared);
+
 /// An opening's lines do not stand in the file: they follow from its wall.
 inline constexpr std::tuple camposAbertura{
     Campo{"Alineacion",        &Abertura::Alineacion},
@@ -234,5 +236,11 @@ inline constexpr auto camposDe<Electrico> = std::tuple{
     Campo{"Angle",      &Electrico::Angle, std::nullopt, RealNormalizadoAlEscribir{}},
 };
 // clang-format on
+
+/// All that stands in the section of an element.
+template <class T>
+inline constexpr const auto& camposDeSeccion = camposDe<T>;
+template <>
+inline constexpr const auto& camposDeSeccion<Pared> = camposParedEntera;
 
 }  // namespace bosquel

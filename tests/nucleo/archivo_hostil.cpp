@@ -236,6 +236,37 @@ TEST(ArchivoHostil, UnDibujoEnMedioDeMillonesDeLineasSeEncuentra) {
     }
 }
 
+TEST(ArchivoHostil, LoQueCasiEsUnaCabeceraOUnaClaveNoAtasca) {
+    constexpr int muchas = 400'000;
+    for (const char* relleno : {"\r", " ", "[", "[ ", "]", "Left=\r", "=["}) {
+        std::string casi;
+        for (int i = 0; i < muchas; ++i)
+            casi += relleno;
+        Banco banco;
+        banco.pon("casi.bqr", casi + "\n[Cabecera]\n" + casi + "\nNumMesa=2\n[Mesa(1)]\n" + casi +
+                                  "\nMesaDimX=7\nVisible=Verdadero\n" + casi);
+        banco.abre("casi.bqr");
+        ASSERT_TRUE(banco.dibujo().MblMesa.existe(1)) << relleno;
+        EXPECT_EQ(banco.dibujo().MblMesa.en(1)->MesaDimX, 7) << relleno;
+        EXPECT_TRUE(banco.dibujo().MblMesa.en(1)->Visible) << relleno;
+    }
+}
+
+TEST(ArchivoHostil, DeUnaClaveRepetidaCuentaLaPrimeraEnCualquierOrden) {
+    Banco banco;
+    abrir(banco, {"[Cabecera]", "NumMesa=2", "NumPared=2", "[Mesa(1)]", "Visible=Verdadero", "MESADIMX=11",
+                  "Top=2", "Left=3", "Visible=Falso", "MesaDimX=12", "Left=4", "[Mesa(1)]", "MesaDimY=13",
+                  "[Pared(1)]", "Longitud=", "AnchoMuro=150", "Longitud=9", "AnchoMuro=-1000", "Tipo=Muro"});
+    const MblMesa& mesa = *banco.dibujo().MblMesa.en(1);
+    EXPECT_TRUE(mesa.Visible);
+    EXPECT_EQ(mesa.MesaDimX, 11);
+    EXPECT_EQ(mesa.MesaDimY, 1000);
+    EXPECT_EQ(mesa.Left, 3);
+    ASSERT_TRUE(banco.dibujo().Pared.existe(1));
+    EXPECT_EQ(banco.dibujo().Pared.en(1)->AnchoMuro, 150);
+    EXPECT_EQ(banco.dibujo().Pared.en(1)->Longitud, banco.dibujo().Pared.modelo().Longitud);
+}
+
 TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYTreintaYDosBytesMasPorNombre) {
     if (apoyo::memoriaSinLimite) GTEST_SKIP() << "the sanitizer takes room of its own";
     GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, with no room left by other tests

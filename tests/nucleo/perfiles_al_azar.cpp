@@ -2,8 +2,10 @@
 #include "apoyo/perfil_ingenuo.h"
 #include "model/windows1252.h"
 
+#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
+#include <optional>
 #include <random>
 #include <vector>
 
@@ -99,6 +101,18 @@ class PerfilAlAzar : public apoyo::Perfil {
                           modelo.leer(seccion, clave, "-"));
     }
 
+    void compararTandas(const ArchivoPerfil& archivo, const PerfilIngenuo& modelo,
+                        const std::vector<std::string_view>& juntas) const {
+        std::vector<std::optional<std::string_view>> leidos(juntas.size());
+        for (const std::string& seccion : secciones) {
+            archivo.buscar(aUtf8(seccion), juntas, leidos);
+            for (std::size_t i = 0; i < juntas.size(); ++i)
+                ASSERT_EQ(aWindows1252(leidos[i].value_or("-")),
+                          modelo.leer(seccion, std::string(juntas[i]), "-"))
+                    << seccion << ' ' << juntas[i];
+        }
+    }
+
     std::mt19937 azar_{1995};
 };
 
@@ -137,6 +151,34 @@ TEST_F(PerfilAlAzar, LlamadaALlamadaYElModeloDicenLoMismo) {
             ASSERT_EQ(bytes(), modelo.bytes()) << testing::PrintToString(antes);
             ASSERT_EQ(aWindows1252(leer(aUtf8(seccion), aUtf8(clave))), modelo.leer(seccion, clave, "-"));
         }
+    }
+}
+
+TEST_F(PerfilAlAzar, VariasClavesALaVezDicenLoMismoQueUnaAUna) {
+    const std::vector<std::string_view> llanas{"k", "Num", "j", ";k", "]", "#k"};
+    const std::string llano = "-1,5";
+    for (int caso = 0; caso < 200; ++caso) {
+        poner(contenido(20));
+        PerfilIngenuo modelo(bytes());
+        ArchivoPerfil tanda(ruta_);
+        for (int paso = 0; paso < 8; ++paso) {
+            const std::string& seccion = uno(secciones);
+            std::vector<std::string_view> juntas = llanas;
+            std::shuffle(juntas.begin(), juntas.end(), azar_);
+            juntas.resize(azar_() % (juntas.size() + 1));
+            std::vector<ValorPerfil> nuevos;
+            for (const std::string_view clave : juntas) {
+                const std::string& valor = azar_() % 4 == 0 ? uno(valores) : llano;
+                nuevos.push_back({clave, aUtf8(valor)});
+                modelo.guardar(seccion, std::string(clave), valor);
+            }
+            tanda.guardar(aUtf8(seccion), nuevos);
+            if (paso % 3 == 0) tanda.leer(aUtf8(uno(secciones)), "k");
+            ASSERT_NO_FATAL_FAILURE(compararTandas(tanda, modelo, llanas))
+                << testing::PrintToString(modelo.bytes());
+        }
+        tanda.volcar();
+        ASSERT_EQ(bytes(), modelo.bytes());
     }
 }
 

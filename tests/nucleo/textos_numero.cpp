@@ -229,6 +229,40 @@ TEST(TextoReal, SusCifrasSonSiempreLasDelValorExactoRedondeado) {
         comparar(valor);
 }
 
+TEST(TextoReal, ElCaminoCortoDaLasMismasCifrasQueElLargo) {
+    const auto comparar = [](double valor, int cuantas) {
+        const auto corto = decimalCorto(valor, cuantas);
+        if (!corto) return 0;
+        const Cifras largo = recortar(cifrasExactas(valor), cuantas);
+        std::string cifras = corto->numero == 0 ? "" : std::to_string(corto->numero);
+        const int punto = static_cast<int>(cifras.size()) - corto->decimales;
+        while (cifras.ends_with('0'))
+            cifras.pop_back();
+        EXPECT_EQ(cifras, largo.cifras) << valor;
+        EXPECT_EQ(cifras.empty() ? 0 : punto, largo.punto) << valor;
+        return 1;
+    };
+    std::mt19937_64 azar(29);
+    int dobles = 0;
+    int simples = 0;
+    for (int i = 0; i < 20000; ++i) {
+        const double escala = std::pow(10.0, static_cast<double>(azar() % 20) - 4);
+        const auto suelto = static_cast<double>(azar() % 100000000) / 1e8 * escala;
+        comparar(suelto, 15);
+        dobles += comparar(std::round(suelto * 100) / 100, 15);
+        simples += comparar(static_cast<float>(suelto), 7);
+        comparar(std::ldexp(static_cast<double>(azar() % 20000000), -static_cast<int>(azar() % 30)), 7);
+    }
+    EXPECT_GT(dobles, 10000);
+    EXPECT_GT(simples, 10000);
+    for (const double valor : {0.0, 0.5, 1e-5, 9999998.5, 9999999.0, 9999999.5, 99999.995, 1e7,
+                               999999999999999.0, 999999999999998.5, 1e15, infinito, ninguno}) {
+        comparar(valor, 7);
+        comparar(valor, 15);
+        comparar(static_cast<float>(valor), 7);
+    }
+}
+
 TEST(Formatos, UnificarPoneSiemprePunto) {
     for (const char* nombre : {Idioma::espanol, Idioma::ingles}) {
         const Idioma idioma(nombre);

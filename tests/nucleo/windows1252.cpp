@@ -57,6 +57,18 @@ TEST(Windows1252, BytesAlAzarNuncaRompenNada) {
     }
 }
 
+TEST(Windows1252, LoQueEsIgualEnAmbosNoSeCopia) {
+    std::string sitio = "como estaba";
+    const std::string_view llano = "Mesa(1)\r\n";
+    EXPECT_EQ(aWindows1252(llano, sitio).data(), llano.data());
+    EXPECT_EQ(aUtf8(llano, sitio).data(), llano.data());
+    EXPECT_EQ(aUtf8("", sitio), "");
+    EXPECT_EQ(sitio, "como estaba");
+    EXPECT_EQ(aWindows1252("ñ", sitio), "\xF1");
+    EXPECT_EQ(aUtf8("a\xF1", sitio), "añ");
+    EXPECT_EQ(sitio, "añ");
+}
+
 TEST(MismoNombre, IgualaMayusculasYMinusculasEnTodaLaPagina) {
     EXPECT_TRUE(mismoNombre("AZaz09_[]", "azaz09_[]"));
     for (const auto& [mayuscula, minuscula] : {std::pair{"Ñ", "ñ"},
