@@ -1,6 +1,8 @@
 #include "apoyo/perfil.h"
+#include "persistence/lineas_perfil.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 using namespace bosquel;
 using namespace std::string_view_literals;
@@ -162,4 +164,13 @@ TEST_F(LecturaPerfil, LosNombresNoDistinguenMayusculas) {
     EXPECT_EQ(leer("Bañera(3)", "NumBañera"), "4");
     EXPECT_EQ(leer("BAÑERA(3)", "numbañera"), "4");
     EXPECT_EQ(leer("Bañera(3)", "NumBanera"), "-");
+}
+
+TEST(LineasPerfil, LlanasSonLasClavesQueSeEscribenComoSePiden) {
+    using Claves = std::vector<std::string_view>;
+    EXPECT_TRUE(sonLlanas(Claves{}));
+    EXPECT_TRUE(sonLlanas(Claves{"Left", "Top", "X.1", "a]"}));
+    for (const char* impropia : {"Dos palabras", "a=b", "[a", "a\tb", "Año", "a\rb"})
+        EXPECT_FALSE(sonLlanas(Claves{"Left", impropia})) << impropia;
+    EXPECT_FALSE(sonLlanas(Claves{"Left", "Top", "LEFT"})) << "one key in two spellings";
 }
