@@ -3,6 +3,7 @@
 #include "drawing/archivo.h"
 #include "drawing/foco.h"
 #include "drawing/vista.h"
+#include "model/metros.h"
 #include "model/numeros.h"
 #include "model/textos_numero.h"
 #include "persistence/perfiles.h"
@@ -11,8 +12,7 @@ namespace bosquel {
 
 namespace {
 
-constexpr double unidadHoja = 100;   // mm of the model to one unit of the sheet fields
-constexpr double milimetros = 1000;  // in a metre
+constexpr double unidadHoja = 100;  // mm of the model to one unit of the sheet fields
 constexpr std::int16_t minutosUsuales = 5;
 
 void leerLado(std::int32_t& destino, const std::string& texto) {
@@ -35,7 +35,7 @@ void Opciones::CargarControles() {
     TxtAltoHoja = formatoEntero(dibujo.AreaHight / unidadHoja);
     ChkIman = dibujo.Iman;
     ChkVisible = dibujo.VerCuadricula;
-    TxtCuadricula = formatoMetros(dibujo.Cuadricula / milimetros);
+    TxtCuadricula = enMetros(dibujo.Cuadricula);
     chkSalvadoAutomatico = dibujo.AutoSave != 0;
     txtSalvarCadaXmin = textoEntero(chkSalvadoAutomatico ? dibujo.AutoSave : minutosUsuales);
 }
@@ -46,7 +46,7 @@ void Opciones::AplicarValores() {
     leerLado(dibujo.AreaHight, TxtAltoHoja);
     MedirHoja(sesion_);
     dibujo.Iman = ChkIman;
-    if (const auto metros = realTecleado(TxtCuadricula)) asignar(dibujo.Cuadricula, *metros * milimetros);
+    leerMetros(dibujo.Cuadricula, TxtCuadricula);
     dibujo.VerCuadricula = ChkVisible;
     if (ChkVisible)
         DibujarCuadricula(sesion_);

@@ -1,13 +1,8 @@
 #include "furnishing/dialogo_mueble.h"
 
-#include "model/numeros.h"
-#include "model/textos_numero.h"
-
 namespace bosquel {
 
 namespace {
-
-constexpr double milimetrosPorMetro = 1000.0;
 
 template <class T>
 constexpr bool tieneFondo = std::derived_from<T, ElementoConFondo>;
@@ -55,14 +50,6 @@ void DialogoMueble::escrito() const {
     if (!existe()) return;
     anunciar(dibujo_, clase_, indice_);
     if (alEscribir) alEscribir();
-}
-
-std::string enMetros(double milimetros) {
-    return formatoMetros(milimetros / milimetrosPorMetro);
-}
-
-void leerMetros(double& milimetros, const std::string& tecleado) {
-    if (const auto metros = realTecleado(tecleado)) asignar(milimetros, *metros * milimetrosPorMetro);
 }
 
 }  // namespace bosquel

@@ -58,9 +58,4 @@ class DialogoMueble {
     int indice_;
 };
 
-/// A size, which a drawing has in millimetres, as a dialog has it: in metres.
-std::string enMetros(double milimetros);
-/// A text that is no number leaves the size as it was.
-void leerMetros(double& milimetros, const std::string& tecleado);
-
 }  // namespace bosquel

@@ -1,6 +1,7 @@
 #include "furnishing/mueble_prop.h"
 
 #include "furnishing/calcar.h"
+#include "model/metros.h"
 
 #include <algorithm>
 

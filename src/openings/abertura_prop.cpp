@@ -1,23 +1,17 @@
 #include "openings/abertura_prop.h"
 
+#include "model/metros.h"
 #include "model/numeros.h"
 #include "model/polar.h"
-#include "model/textos_numero.h"
 #include "walls/pared.h"
 
 namespace bosquel {
 
 namespace {
 
-constexpr double milimetros = 1000.0;  // in a metre
-
 // Units of the sketch.
 constexpr double ladoBoton = 300;
 constexpr double distanciaPunto = 500, distanciaLado = 900;
-
-void leer(double& destino, const std::string& texto) {
-    if (const auto metros = realTecleado(texto)) asignar(destino, *metros * milimetros);
-}
 
 }  // namespace
 
@@ -25,8 +19,8 @@ AberturaProp::AberturaProp(const Dibujo& dibujo, const Abertura* abertura) {
     muro_.AnchoMuro = anchoMuroCroquis;
     muro_.AnchoTabique = anchoTabiqueCroquis;
     if (!abertura) return;
-    txtLongitud = formatoMetros(abertura->Longitud / milimetros);
-    TxtDistancia = formatoMetros(abertura->Distancia / milimetros);
+    txtLongitud = enMetros(abertura->Longitud);
+    TxtDistancia = enMetros(abertura->Distancia);
     if (abertura->Alineacion == "Centro") alineacion_ = 0;
     if (abertura->Alineacion == "Izquierda" || abertura->Alineacion == "Derecha") alineacion_ = 1;
     angulo_ = abertura->Angulo;
@@ -64,8 +58,8 @@ void AberturaProp::dibujar(const std::function<void()>& trazar) {
 }
 
 void AberturaProp::leerMedidas(Abertura& abertura) const {
-    leer(abertura.Distancia, TxtDistancia);
-    leer(abertura.Longitud, txtLongitud);
+    leerMetros(abertura.Distancia, TxtDistancia);
+    leerMetros(abertura.Longitud, txtLongitud);
 }
 
 }  // namespace bosquel

@@ -1,5 +1,6 @@
 #include "stairs_symbols/escalera_prop.h"
 
+#include "model/metros.h"
 #include "model/numeros.h"
 #include "model/textos_numero.h"
 #include "stairs_symbols/escalera.h"
@@ -9,7 +10,6 @@ namespace bosquel {
 
 namespace {
 
-constexpr double milimetros = 1000.0;  // in a metre
 constexpr int vuelta = 360;
 
 /// All that the dialog shows of a stair: what it is, and not where it stands.
@@ -26,7 +26,7 @@ void copiar(const Escalera& de, Escalera& a) {
 }
 
 std::string metros(std::int32_t longitud) {
-    return formatoSinGrupos(longitud / milimetros);
+    return formatoSinGrupos(longitud / milimetrosPorMetro);
 }
 
 void leer(std::int32_t& destino, const std::string& texto, double unidad) {
@@ -64,10 +64,10 @@ void EscaleraProp::PreviewChanges() {
     if (optTramos_ != 0) StairPreview_.Stairs = optTramos_;
     StairPreview_.LineColor = txtLineColor;
     asignar(StairPreview_.Angle, Angulo.grados().value_or(0));
-    leer(StairPreview_.StairEye, txtAnchoOjo, milimetros);
-    leer(StairPreview_.WidthSteps, txtHuella, milimetros);
+    leer(StairPreview_.StairEye, txtAnchoOjo, milimetrosPorMetro);
+    leer(StairPreview_.WidthSteps, txtHuella, milimetrosPorMetro);
     for (std::size_t i = 0; i < tramos.size(); ++i) {
-        leer(StairPreview_.WidthStair[i], tramos[i].txtAnchoTramo, milimetros);
+        leer(StairPreview_.WidthStair[i], tramos[i].txtAnchoTramo, milimetrosPorMetro);
         leer(StairPreview_.StepsStair[i], tramos[i].txtPeldaños, 1);
         StairPreview_.RailingSide[i] = tramos[i].chkBarandilla;
     }

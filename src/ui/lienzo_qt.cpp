@@ -1,5 +1,6 @@
 #include "ui/lienzo_qt.h"
 
+#include "model/metros.h"
 #include "output/escala.h"
 #include "ui/superficie_imagen.h"
 #include "ui/vista_previa.h"
@@ -17,8 +18,6 @@
 namespace bosquel {
 
 namespace {
-
-constexpr double milimetrosPorMetro = 1000;
 
 /// What else an open window and its dialogs may want while a picture is there, bytes.
 constexpr std::size_t reservaPorImagen = std::size_t{16} << 20U;

@@ -1,5 +1,6 @@
 #include "walls/pared_prop.h"
 
+#include "model/metros.h"
 #include "model/numeros.h"
 #include "model/textos_numero.h"
 #include "walls/grupos.h"
@@ -11,18 +12,12 @@ namespace bosquel {
 
 namespace {
 
-constexpr double milimetros = 1000.0;  // in a metre
-
 /// The label shows the coordinate in metres of the sheet first, cut to two decimals, and then divided by the
 /// zoom factor.
 std::string textoCoordenada(float coordenada, double factor) {
     double metros = 0;
-    asignar(metros, realDeTexto(formatoMetros(coordenada / milimetros)).value_or(0) / factor);
+    asignar(metros, realDeTexto(enMetros(coordenada)).value_or(0) / factor);
     return textoReal(metros);
-}
-
-void leerLongitud(double& destino, const std::string& texto) {
-    if (const auto metros = realTecleado(texto)) asignar(destino, *metros * milimetros);
 }
 
 }  // namespace
@@ -30,9 +25,9 @@ void leerLongitud(double& destino, const std::string& texto) {
 ParedProp::ParedProp(Dibujo& dibujo, int indice) : dibujo_(dibujo), indice_(indice) {
     const Pared* pared = this->pared();
     if (!pared) return;
-    txtLongitud = formatoMetros(pared->Longitud / milimetros);
-    TxtAnchoMuro = formatoMetros(pared->AnchoMuro / milimetros);
-    TxtAnchoTabique = formatoMetros(pared->AnchoTabique / milimetros);
+    txtLongitud = enMetros(pared->Longitud);
+    TxtAnchoMuro = enMetros(pared->AnchoMuro);
+    TxtAnchoTabique = enMetros(pared->AnchoTabique);
     TxtAngulo = textoEntero(pared->Angulo);
     const auto etiqueta = std::find(EtiquetaAngulo.begin(), EtiquetaAngulo.end(), TxtAngulo + "º");
     if (etiqueta != EtiquetaAngulo.end())
@@ -56,9 +51,9 @@ void ParedProp::elegirAngulo(int etiqueta) {
 }
 
 void ParedProp::escribir(Pared& pared) const {
-    leerLongitud(pared.AnchoMuro, TxtAnchoMuro);
-    leerLongitud(pared.AnchoTabique, TxtAnchoTabique);
-    leerLongitud(pared.Longitud, txtLongitud);
+    leerMetros(pared.AnchoMuro, TxtAnchoMuro);
+    leerMetros(pared.AnchoTabique, TxtAnchoTabique);
+    leerMetros(pared.Longitud, txtLongitud);
     if (const auto angulo = realTecleado(TxtAngulo)) asignar(pared.Angulo, *angulo);
     pared.NumeroGrupo = 0;
     pared.Tipo = tipo_ == 0 ? "Muro" : "Tabique";
