@@ -27,8 +27,16 @@ std::string limpio(const std::string& texto) {
 }
 
 bool iguales(const std::string& a, const std::string& b) {
-    const std::string grandes = "ABCDEFGHIJKLMNOPQRSTUVWXYZ\xC0\xC1\xC9\xD1\xDC\xDE\x8A\x8C\x8E\x9F";
-    const std::string chicas = "abcdefghijklmnopqrstuvwxyz\xE0\xE1\xE9\xF1\xFC\xFE\x9A\x9C\x9E\xFF";
+    const std::string grandes =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
+        "\xC0\xC1\xC2\xC3\xC4\xC5\xC6\xC7\xC8\xC9\xCA\xCB"
+        "\xCC\xCD\xCE\xCF\xD0\xD1\xD2\xD3\xD4\xD5\xD6\xD8"
+        "\xD9\xDA\xDB\xDC\xDD\xDE\x8A\x8C\x8E\x9F";
+    const std::string chicas =
+        "abcdefghijklmnopqrstuvwxyz"
+        "\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB"
+        "\xEC\xED\xEE\xEF\xF0\xF1\xF2\xF3\xF4\xF5\xF6\xF8"
+        "\xF9\xFA\xFB\xFC\xFD\xFE\x9A\x9C\x9E\xFF";
     if (a.size() != b.size()) return false;
     for (std::size_t i = 0; i < a.size(); ++i) {
         const std::size_t x = grandes.find(a[i]);
