@@ -37,6 +37,11 @@ std::size_t lugarDe(std::span<const std::string_view> nombres, std::string_view 
     return static_cast<std::size_t>(std::find_if(nombres.begin(), nombres.end(), esEste) - nombres.begin());
 }
 
+/// Where a part of a text begins in it.
+std::size_t lugarEn(std::string_view texto, std::string_view parte) {
+    return static_cast<std::size_t>(parte.data() - texto.data());
+}
+
 bool contieneSalto(std::string_view texto) {
     return std::any_of(texto.begin(), texto.end(), esSalto);
 }
@@ -47,7 +52,8 @@ ImagenPerfil::ImagenPerfil(std::string bytes) : texto_(std::move(bytes)) {
     if (texto_.starts_with(marcaUtf8)) comienzo_ = marcaUtf8.size();
     for (auto cabecera = cabeceraDesde(texto_, comienzo_); cabecera;
          cabecera = cabeceraDesde(texto_, cabecera->lugar + cabecera->largo))
-        secciones_.anadir(texto_, NombreBuscado(cabecera->nombre), cabecera->lugar);
+        secciones_.anadir(texto_, NombreBuscado(cabecera->nombre), cabecera->lugar,
+                          lugarEn(texto_, cabecera->nombre));
     abrir("");
 }
 
@@ -91,7 +97,8 @@ std::optional<Linea> ImagenPerfil::encontrar(const NombreBuscado& clave) {
     while (const auto linea = avanzar()) {
         const std::string_view suya = nombre(linea->nombre);
         const bool esEsta = mismoNombre(suya, clave.texto);
-        abierta_.claves.anadir(texto, esEsta ? clave : NombreBuscado(suya), linea->lugar);
+        abierta_.claves.anadir(texto, esEsta ? clave : NombreBuscado(suya), linea->lugar,
+                               lugarEn(texto, suya));
         if (esEsta) return linea;
     }
     return std::nullopt;
@@ -154,7 +161,7 @@ void ImagenPerfil::ponerCabeza() {
     texto_.append("[").append(abierta_.nombre).append("]").append(finDeLinea);
     abierta_.recorrido = abierta_.finConTexto = texto_.size() - abierta_.cabeza;
     abierta_.entera = true;
-    secciones_.anadir(texto_, NombreBuscado(abierta_.nombre), abierta_.cabeza);
+    secciones_.anadir(texto_, NombreBuscado(abierta_.nombre), abierta_.cabeza, abierta_.cabeza + 1);
 }
 
 bool ImagenPerfil::crear(std::span<const ValorPerfil> valores) {
@@ -172,7 +179,7 @@ void ImagenPerfil::anadir(const NombreBuscado& clave, std::string_view linea) {
         cambiar(abierta_.finConTexto, 0, finDeLinea);
     const std::size_t lugar = abierta_.finConTexto;
     cambiar(lugar, 0, linea);
-    abierta_.claves.anadir(textoAbierta(), clave, lugar);
+    abierta_.claves.anadir(textoAbierta(), clave, lugar, lugar);
 }
 
 bool ImagenPerfil::sustituir(const Linea& antes, std::string_view valor) {
@@ -180,7 +187,7 @@ bool ImagenPerfil::sustituir(const Linea& antes, std::string_view valor) {
     if (ahora == textoAbierta().substr(antes.lugar, antes.largo)) return false;
     const std::size_t crece = ahora.size() - antes.largo;  // modulo 2^n: it may shrink
     cambiar(antes.lugar, antes.largo, ahora);
-    abierta_.claves.desplazar(antes.lugar + 1, crece);
+    abierta_.claves.mover(antes.lugar, crece);
     return true;
 }
 
@@ -210,22 +217,27 @@ std::size_t ImagenPerfil::finAbierta() const {
     return siguiente ? siguiente->lugar : texto_.size();
 }
 
-/// Parses itself anew.
-void ImagenPerfil::rehacer() {
+/// The file with all that was changed in its place.
+std::string ImagenPerfil::unir() const {
     std::string todo;
     std::size_t desde = 0;
     for (const auto& [cabeza, apartada] : apartadas_) {
         todo.append(texto_, desde, cabeza - desde).append(apartada.texto);
         desde = cabeza + apartada.largo;
     }
+    todo.append(texto_, desde);
+    return todo;
+}
+
+/// Parses itself anew.
+void ImagenPerfil::rehacer() {
     const std::string seccion = std::move(abierta_.nombre);
-    *this = ImagenPerfil(todo.append(texto_, desde));
+    *this = ImagenPerfil(unir());
     abrir(seccion);
 }
 
-std::string_view ImagenPerfil::bytes() {
-    if (!apartadas_.empty()) rehacer();
-    return texto_;
+std::string_view ImagenPerfil::bytes(std::string& sitio) const {
+    return apartadas_.empty() ? texto_ : sitio = unir();
 }
 
 }  // namespace bosquel

@@ -42,8 +42,9 @@ class ImagenPerfil {
     /// does.
     bool crear(std::span<const ValorPerfil> valores);
 
-    /// The file as it is now; good until it is changed.
-    std::string_view bytes();
+    /// The file as it is now, put together in `sitio` where it is not there in one piece; good until it is
+    /// changed.
+    std::string_view bytes(std::string& sitio) const;
 
   private:
     static constexpr std::size_t ninguna = static_cast<std::size_t>(-1);
@@ -74,6 +75,7 @@ class ImagenPerfil {
     void cambiar(std::size_t lugar, std::size_t largo, std::string_view texto);
     std::size_t finAbierta() const;
     std::string_view componer(std::string_view clave, std::string_view valor);
+    std::string unir() const;
     void rehacer();
 
     std::string texto_;                          ///< the file, its last section as it is now

@@ -1,7 +1,6 @@
 #include "persistence/indice_nombres.h"
 
 #include "model/windows1252.h"
-#include "persistence/lineas_perfil.h"
 
 #include <random>
 #include <utility>
@@ -12,12 +11,25 @@ namespace {
 
 constexpr std::size_t letrasPorPaso = sizeof(std::uint64_t);
 
-std::uint64_t semilla() {
-    static const std::uint64_t una = [] {
-        std::random_device azar;
-        return std::uint64_t{azar()} << 32U | azar();
-    }();
-    return una;
+/// Two numbers that nobody knows.
+struct Secreto {
+    std::uint64_t comienzo, factor;
+};
+
+std::uint64_t alAzar() {
+    std::random_device azar;
+    return std::uint64_t{azar()} << 32U | azar();
+}
+
+const Secreto& secreto() {
+    static const Secreto uno{alAzar(), alAzar() | 1U};
+    return uno;
+}
+
+/// Both halves of a product in one: each bit of it depends on all bits of the factors.
+std::uint64_t plegar(std::uint64_t a, std::uint64_t b) {
+    const auto producto = static_cast<unsigned __int128>(a) * b;
+    return static_cast<std::uint64_t>(producto) ^ static_cast<std::uint64_t>(producto >> 64U);
 }
 
 /// The first eight letters as a number, in small letters.
@@ -29,17 +41,11 @@ std::uint64_t palabra(std::string_view letras) {
 }
 
 std::uint32_t huellaDe(std::string_view nombre) {
-    constexpr std::uint64_t impar = 0x9E3779B97F4A7C15U;
-    std::uint64_t suma = semilla() + nombre.size();
-    for (std::size_t i = 0; i < nombre.size(); i += letrasPorPaso) {
-        suma = (suma ^ palabra(nombre.substr(i))) * impar;
-        suma ^= suma >> 32U;
-    }
-    return static_cast<std::uint32_t>((suma * impar) >> 32U);
-}
-
-std::string_view nombreEn(std::string_view texto, std::size_t lugar) {
-    return nombre(leerLinea(texto, lugar).nombre);
+    const auto& [comienzo, factor] = secreto();
+    std::uint64_t suma = comienzo + nombre.size();
+    for (std::size_t i = 0; i < nombre.size(); i += letrasPorPaso)
+        suma = plegar(suma ^ palabra(nombre.substr(i)), factor);
+    return static_cast<std::uint32_t>(plegar(suma, factor));
 }
 
 }  // namespace
@@ -59,7 +65,8 @@ std::size_t IndiceNombres::casillaDe(std::uint32_t huella, Vale vale) const {
 /// The square where the name stands, or else the free one where it would.
 std::size_t IndiceNombres::casillaDe(std::string_view texto, const NombreBuscado& nombre) const {
     return casillaDe(nombre.huella, [&](const Casilla& casilla) {
-        return casilla.huella == nombre.huella && mismoNombre(nombreEn(texto, casilla.lugar), nombre.texto);
+        return casilla.huella == nombre.huella &&
+               mismoNombre(texto.substr(casilla.comienzo, casilla.largo), nombre.texto);
     });
 }
 
@@ -68,17 +75,22 @@ std::optional<std::size_t> IndiceNombres::buscar(std::string_view texto, const N
     return casilla.lugar == libre ? std::nullopt : std::optional<std::size_t>(casilla.lugar);
 }
 
-void IndiceNombres::anadir(std::string_view texto, const NombreBuscado& nombre, std::size_t lugar) {
+void IndiceNombres::anadir(std::string_view texto, const NombreBuscado& nombre, std::size_t lugar,
+                           std::size_t comienzo) {
     Casilla& casilla = casillas_[casillaDe(texto, nombre)];
     if (casilla.lugar != libre) return;
-    casilla = {static_cast<std::uint32_t>(lugar), nombre.huella};
+    casilla = {static_cast<std::uint32_t>(lugar), static_cast<std::uint32_t>(comienzo),
+               static_cast<std::uint32_t>(nombre.texto.size()), nombre.huella};
     if (++ocupadas_ > casillas_.size() / 4 * 3) crecer();
 }
 
-void IndiceNombres::desplazar(std::size_t desde, std::size_t pasos) {
-    for (Casilla& casilla : casillas_)
-        if (casilla.lugar != libre && casilla.lugar >= desde)
-            casilla.lugar += static_cast<std::uint32_t>(pasos);
+void IndiceNombres::mover(std::size_t lugar, std::size_t pasos) {
+    for (Casilla& casilla : casillas_) {
+        if (casilla.lugar == lugar) casilla.comienzo = casilla.lugar;
+        if (casilla.lugar == libre || casilla.lugar <= lugar) continue;
+        casilla.lugar += static_cast<std::uint32_t>(pasos);
+        casilla.comienzo += static_cast<std::uint32_t>(pasos);
+    }
 }
 
 void IndiceNombres::vaciar() {

@@ -23,10 +23,11 @@ struct NombreBuscado {
 class IndiceNombres {
   public:
     std::optional<std::size_t> buscar(std::string_view texto, const NombreBuscado& nombre) const;
-    /// The name stands in the line at the place, unless it is known to stand elsewhere.
-    void anadir(std::string_view texto, const NombreBuscado& nombre, std::size_t lugar);
-    /// All names from `desde` on stand `pasos` further on in the text.
-    void desplazar(std::size_t desde, std::size_t pasos);
+    /// The name stands in the line at the place, where it begins at `comienzo`, unless it is known to stand
+    /// in another.
+    void anadir(std::string_view texto, const NombreBuscado& nombre, std::size_t lugar, std::size_t comienzo);
+    /// The line at the place begins with its name now, and all lines behind it stand `pasos` further on.
+    void mover(std::size_t lugar, std::size_t pasos);
     void vaciar();
     bool vacio() const { return ocupadas_ == 0; }
 
@@ -34,11 +35,12 @@ class IndiceNombres {
     static constexpr std::size_t alPrincipio = 64;  ///< a power of two, as every number of squares
     static constexpr auto libre = static_cast<std::uint32_t>(-1);
 
-    /// A place, in 32 bits since no profile that is read or written comes near 4 GB, and the print of the
-    /// name there: it tells most other names apart, and finds the name its square in a larger table, without
-    /// a look at the text.
+    /// A line and the name in it, in 32 bits since no profile that is read or written comes near 4 GB, and
+    /// the print of the name: it tells most other names apart, and finds the name its square in a larger
+    /// table, without a look at the text. The line itself is never read again: it may be as long as the file.
     struct Casilla {
         std::uint32_t lugar = libre;
+        std::uint32_t comienzo = 0, largo = 0;
         std::uint32_t huella = 0;
     };
 

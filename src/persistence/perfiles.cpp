@@ -17,7 +17,7 @@ std::optional<std::string_view> legible(std::string_view valor, std::string& sit
     return valor.empty() ? std::nullopt : std::optional(aUtf8(valor, sitio));
 }
 
-/// Printable ASCII alone, which is the same in both character sets, and no line break.
+/// ASCII alone, which is the same in both character sets, and no line break or other control character.
 bool esLlano(const ValorPerfil& valor) {
     bool alguno = false;
     for (const char c : valor.valor)
@@ -101,7 +101,8 @@ void ArchivoPerfil::guardar(std::string_view seccion, std::span<const ValorPerfi
 
 void ArchivoPerfil::volcar() {
     if (!imagen_->cambiada || !imagen_->sustituible) return;
-    if (sustituirArchivo(ruta_, imagen_->contenido.bytes())) imagen_->cambiada = false;
+    std::string sitio;
+    if (sustituirArchivo(ruta_, imagen_->contenido.bytes(sitio))) imagen_->cambiada = false;
 }
 
 std::string LeerIni(const std::filesystem::path& Fichero, std::string_view Seccion, std::string_view Clave,

@@ -19,6 +19,10 @@ bool acotar(double inicio, double paso, double& desde, double& hasta) {
     return desde <= hasta;
 }
 
+bool dentroDe(LugarPixeles lugar, double alcance) {
+    return std::abs(lugar.x) <= alcance && std::abs(lugar.y) <= alcance;
+}
+
 TramoPixeles enteros(LugarPixeles desde, LugarPixeles hasta) {
     return {pixelEntero(desde.x), pixelEntero(desde.y), pixelEntero(hasta.x), pixelEntero(hasta.y)};
 }
@@ -30,11 +34,11 @@ int pixelEntero(double coordenada) {
 }
 
 bool alAlcance(LugarPixeles lugar) {
-    return std::abs(lugar.x) <= Trama::lejos && std::abs(lugar.y) <= Trama::lejos;
+    return dentroDe(lugar, Trama::lejosCurva);
 }
 
 std::optional<TramoPixeles> recortar(LugarPixeles desde, LugarPixeles hasta) {
-    if (alAlcance(desde) && alAlcance(hasta)) return enteros(desde, hasta);
+    if (dentroDe(desde, Trama::lejos) && dentroDe(hasta, Trama::lejos)) return enteros(desde, hasta);
     const double dx = hasta.x - desde.x;
     const double dy = hasta.y - desde.y;
     double inicio = 0;

@@ -51,10 +51,11 @@ class SuperficiePixeles : public SuperficieSalida {
 /// The whole pixel nearest to a coordinate; what lies too far away for a raster is brought near.
 int pixelEntero(double coordenada);
 
-/// Whether a place is within the reach of a raster.
+/// Whether a place is within the reach of curves and letters.
 bool alAlcance(LugarPixeles lugar);
 
-/// The part of a line that lies within that reach, as whole pixels: its ends. Nothing if none does.
+/// The part of a line that lies within the reach of a raster, as whole pixels: its ends. Nothing if none
+/// does.
 struct TramoPixeles {
     int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
 };

@@ -1,8 +1,6 @@
 #include "surface/trama.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <utility>
 
 namespace bosquel {

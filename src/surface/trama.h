@@ -19,11 +19,11 @@ ZonaPixeles comun(const ZonaPixeles& una, const ZonaPixeles& otra);
 /// The rectangle with these opposite corners.
 ZonaPixeles entre(int x1, int y1, int x2, int y2);
 
-/// The whole pixel whose middle comes nearest to a coordinate not above 65000, of two the lower or right one:
-/// it is the same one wherever pixels are counted from.
+/// The whole pixel whose middle comes nearest to a coordinate within `Trama::lejos`, of two the lower or
+/// right one: it is the same one wherever pixels are counted from.
 inline int pixelCercano(double coordenada) {
     // Above 0 a fraction is cut off downwards.
-    constexpr int encima = 65536;
+    constexpr int encima = 1 << 30;
     return static_cast<int>(coordenada + encima + 0.5) - encima;
 }
 
@@ -58,15 +58,17 @@ class Trama {
     /// Every third pixel of such a line, from its upper or left end on.
     void puntear(int x1, int y1, int x2, int y2, Pixel tinta);
 
-    /// A curve whose lengths are pixels, middle and half-axes within `lejos`; a pixel stands for the whole
-    /// numbers of its middle. Each is one through whose square the curve passes, and where it passes through
-    /// two that share a side, one of them may do for both.
+    /// A curve whose lengths are pixels, middle and half-axes within `lejosCurva`; a pixel stands for the
+    /// whole numbers of its middle. Each is one through whose square the curve passes, and where it passes
+    /// through two that share a side, one of them may do for both.
     void curva(const Curva& curva, Pixel tinta);
     /// The pixels whose middles a whole circle or ellipse surrounds.
     void rellenarCurva(const Curva& curva, Pixel tinta);
 
+    /// Larger than any sheet.
+    static constexpr int lejos = 100'000'000;
     /// Larger than any screen.
-    static constexpr int lejos = 20000;
+    static constexpr int lejosCurva = 20'000;
 
   private:
     template <class Poner>

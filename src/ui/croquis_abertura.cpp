@@ -94,8 +94,8 @@ void CroquisAbertura::mostrar() {
 
 QImage CroquisAbertura::imagen() const {
     const double densidad = devicePixelRatioF();
-    QImage imagen = papelPara(*this);
-    SuperficieImagen superficie(imagen, densidad / unidadesDelCroquis, SuperficieImagen::Letras::enteras,
+    QImage imagen = papelDe(*this);
+    SuperficieImagen superficie(imagen, densidad / unidadesDelCroquis, SuperficieImagen::Letras::sinSuavizar,
                                 enPixeles(0, 0) * densidad);
     logica_.trazarCroquis(superficie);
     return imagen;
@@ -103,7 +103,7 @@ QImage CroquisAbertura::imagen() const {
 
 void CroquisAbertura::paintEvent(QPaintEvent*) {
     QPainter pintor(this);
-    pintor.drawImage(rect(), imagen());
+    ponerPapel(pintor, imagen());
     pintor.setPen(palette().color(QPalette::Mid));
     pintor.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }

@@ -3,9 +3,8 @@
 #include <QRadioButton>
 #include <array>
 
-class QImage;
-
 class QButtonGroup;
+class QImage;
 
 namespace bosquel {
 

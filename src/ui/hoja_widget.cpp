@@ -8,7 +8,7 @@
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
-#include <cmath>
+#include <algorithm>
 
 namespace bosquel {
 

@@ -1,5 +1,6 @@
 #include "ui/imagen_elemento.h"
 
+#include "ui/color_qt.h"
 #include "ui/iconos.h"
 #include "ui/superficie_qt.h"
 

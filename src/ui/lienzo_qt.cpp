@@ -90,7 +90,7 @@ TamanoSalida LienzoQt::pintarHoja(TamanoSalida tamano,
                                   const std::function<void(SuperficieSalida&)>& dibujar) {
     HojaSalida_ = papelPara(tamano, copiasDeLaHoja);
     if (!HojaSalida_.isNull()) {
-        SuperficieImagen superficie(HojaSalida_, 1 / twipsPorPixel, SuperficieImagen::Letras::enteras);
+        SuperficieImagen superficie(HojaSalida_, 1 / twipsPorPixel, SuperficieImagen::Letras::sinSuavizar);
         dibujar(superficie);
     }
     return {HojaSalida_.width(), HojaSalida_.height()};

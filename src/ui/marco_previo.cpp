@@ -53,10 +53,10 @@ void MarcoPrevio::mostrar(const Electrico& electrico, double FactorZoomActual) {
 
 QImage MarcoPrevio::imagen() const {
     const double densidad = devicePixelRatioF();
-    QImage imagen = papelPara(*this);
+    QImage imagen = papelDe(*this);
     if (alcance_ > 0) {
         const double escala = (std::min(width(), height()) / 2.0 - aire) / alcance_ * densidad;
-        SuperficieImagen superficie(imagen, escala, SuperficieImagen::Letras::enteras,
+        SuperficieImagen superficie(imagen, escala, SuperficieImagen::Letras::sinSuavizar,
                                     QRectF(rect()).center() * densidad);
         DibujarElemento(salidaDe(dibujo_, superficie, 1), dibujo_, clase_, 1);
     }
@@ -65,7 +65,7 @@ QImage MarcoPrevio::imagen() const {
 
 void MarcoPrevio::paintEvent(QPaintEvent*) {
     QPainter pintor(this);
-    pintor.drawImage(rect(), imagen());
+    ponerPapel(pintor, imagen());
     pintor.setPen(palette().color(QPalette::Mid));
     pintor.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }

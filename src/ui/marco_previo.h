@@ -2,8 +2,9 @@
 
 #include "model/dibujo.h"
 
-#include <QImage>
 #include <QWidget>
+
+class QImage;
 
 namespace bosquel {
 

@@ -19,8 +19,11 @@ namespace {
 constexpr Color bordePinza = 0x404040;
 constexpr Color colorVector = 0x404040;
 
-Recuadro aUnidadesDeHoja(const QRect& zona, double escala) {
-    return {zona.x() / escala, zona.y() / escala, zona.width() / escala, zona.height() / escala};
+/// The part of the sheet that these pixels show, and one pixel around it: what lies there may be rounded into
+/// them.
+Recuadro conVecinos(const QRect& zona, double escala) {
+    const QRect mayor = zona.adjusted(-1, -1, 1, 1);
+    return {mayor.x() / escala, mayor.y() / escala, mayor.width() / escala, mayor.height() / escala};
 }
 
 /// A picture to paint on, whose pixels are counted from its own corner: a sheet may be too large for them.
@@ -149,18 +152,15 @@ bool aparte(const Sesion& sesion, Referencia cual) {
     return cual == sesion.dibujo.ObjetoEnMovimiento || seEscribe(sesion, cual);
 }
 
-/// What lies a pixel outside of the part wanted may be rounded into it.
-Recuadro conVecinos(const Recuadro& zona, double escala) {
-    return {zona.Left - 1 / escala, zona.Top - 1 / escala, zona.Width + 2 / escala, zona.Height + 2 / escala};
-}
-
 void pintarMarco(SuperficieImagen& superficie, const MarcoDeSeleccion& marco) {
     if (!marco.Visible) return;
     const Recuadro& zona = marco.recuadro;
-    const auto esquinas = recortar(superficie.enPixeles(zona.Left, zona.Top),
-                                   superficie.enPixeles(zona.Left + zona.Width, zona.Top + zona.Height));
-    if (!esquinas) return;
-    const auto [x1, y1, x2, y2] = *esquinas;
+    const LugarPixeles una = superficie.enPixeles(zona.Left, zona.Top);
+    const LugarPixeles otra = superficie.enPixeles(zona.Left + zona.Width, zona.Top + zona.Height);
+    const int x1 = pixelEntero(una.x);
+    const int y1 = pixelEntero(una.y);
+    const int x2 = pixelEntero(otra.x);
+    const int y2 = pixelEntero(otra.y);
     for (const auto [xa, ya, xb, yb] : {TramoPixeles{x1, y1, x2, y1}, TramoPixeles{x1, y2, x2, y2},
                                         TramoPixeles{x1, y1, x1, y2}, TramoPixeles{x2, y1, x2, y2}})
         superficie.trama().puntear(xa, ya, xb, yb, Trama::pixel(rojo));
@@ -177,7 +177,7 @@ void pintarVector(SuperficieImagen& superficie, const Segmento& vector) {
 }  // namespace
 
 void pintarQuieto(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion, const QRect& zona) {
-    const Recuadro visible = aUnidadesDeHoja(zona, lugar.escala);
+    const Recuadro visible = conVecinos(zona, lugar.escala);
     SuperficieImagen superficie = superficieDe(imagen, lugar, zona);
     superficie.trama().rellenar(superficie.trama().zona(), Trama::pixel(blanco));
     pintarCuadricula(superficie, sesion.cuadricula, visible);
@@ -192,7 +192,7 @@ void pintarQuieto(QImage& imagen, const LugarHoja& lugar, const Sesion& sesion, 
     anadir(Clase::Pared, dibujo.Pared);
     anadir(Clase::Ventana, dibujo.Ventana);
     anadir(Clase::Puerta, dibujo.Puerta);
-    for (const Referencia cual : sesion.mapa.enZona(conVecinos(visible, lugar.escala)))
+    for (const Referencia cual : sesion.mapa.enZona(visible))
         if (!aparte(sesion, cual)) capas.anadir(cual);
     capas.pintar();
 }

@@ -43,7 +43,7 @@ void SuperficieImagen::ponerLetra() {
     if (puntosLetra_ == puntos_) return;
     puntosLetra_ = puntos_;
     QFont letra = fuenteTexto(puntos_, escala());
-    if (letras_ == Letras::enteras) letra = sinSuavizar(letra);
+    if (letras_ == Letras::sinSuavizar) letra = sinSuavizar(letra);
     pintor().setFont(letra);
     ascenso_ = QFontMetricsF(letra).ascent();
 }
@@ -57,11 +57,19 @@ void SuperficieImagen::Print(std::string_view texto) {
                       QString::fromUtf8(texto.data(), static_cast<qsizetype>(texto.size())));
 }
 
-QImage papelPara(const QWidget& widget) {
+QImage papelDe(const QWidget& widget) {
     const QSizeF tamano = QSizeF(widget.size()) * widget.devicePixelRatioF();
     QImage papel(tamano.toSize(), QImage::Format_RGB32);
     papel.fill(Qt::white);
     return papel;
+}
+
+void ponerPapel(QPainter& pintor, const QImage& papel) {
+    const double densidad = pintor.device()->devicePixelRatioF();
+    pintor.save();
+    pintor.scale(1 / densidad, 1 / densidad);
+    pintor.drawImage(QPoint(), papel);
+    pintor.restore();
 }
 
 }  // namespace bosquel

@@ -14,7 +14,8 @@ namespace bosquel {
 /// A surface on a picture of 32-bit pixels. As long as it is drawn on, the picture may not be copied.
 class SuperficieImagen final : public SuperficiePixeles {
   public:
-    enum class Letras : bool { enteras, suaves };
+    /// Those that are not smoothed are the same on every desktop.
+    enum class Letras : bool { sinSuavizar, suaves };
 
     /// `escala` pixels to a surface unit; the surface's origin falls on the place `origen` of the picture.
     SuperficieImagen(QImage& imagen, double escala, Letras letras, QPointF origen = {})
@@ -43,7 +44,8 @@ class SuperficieImagen final : public SuperficiePixeles {
     double ascenso_ = 0;                 ///< of its letters, pixels
 };
 
-/// White paper as large as a widget, a pixel to each of its device's.
-QImage papelPara(const QWidget& widget);
+/// White paper as large as a widget, a pixel to each of its device's; and how it is put there, to the pixel.
+QImage papelDe(const QWidget& widget);
+void ponerPapel(QPainter& pintor, const QImage& papel);
 
 }  // namespace bosquel

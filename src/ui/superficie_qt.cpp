@@ -1,6 +1,7 @@
 #include "ui/superficie_qt.h"
 
 #include "surface/superficie_pixeles.h"
+#include "ui/color_qt.h"
 
 #include <QPainterPath>
 #include <QtMath>
@@ -24,17 +25,19 @@ void SuperficieQt::ponerBrocha() {
 }
 
 void SuperficieQt::trazarLinea(double x1, double y1, double x2, double y2, Color color) {
-    const auto tramo = recortar(lugar(enPixeles(x1, y1)), lugar(enPixeles(x2, y2)));
-    if (!tramo) return;
+    const LugarPixeles desde = lugar(enPixeles(x1, y1));
+    const LugarPixeles hasta = lugar(enPixeles(x2, y2));
+    if (!alAlcance(desde) || !alAlcance(hasta)) return;
     ponerLapiz(color);
-    pintor_.drawLine(tramo->x1, tramo->y1, tramo->x2, tramo->y2);
+    pintor_.drawLine(pixelEntero(desde.x), pixelEntero(desde.y), pixelEntero(hasta.x), pixelEntero(hasta.y));
 }
 
 void SuperficieQt::trazarCaja(double x1, double y1, double x2, double y2, Color color) {
-    const QPointF una = enPixeles(x1, y1);
-    const QPointF otra = enPixeles(x2, y2);
+    const LugarPixeles una = lugar(enPixeles(x1, y1));
+    const LugarPixeles otra = lugar(enPixeles(x2, y2));
+    if (!alAlcance(una) || !alAlcance(otra)) return;
     const ZonaPixeles caja =
-        entre(pixelEntero(una.x()), pixelEntero(una.y()), pixelEntero(otra.x()), pixelEntero(otra.y()));
+        entre(pixelEntero(una.x), pixelEntero(una.y), pixelEntero(otra.x), pixelEntero(otra.y));
     ponerLapiz(color);
     ponerBrocha();
     pintor_.drawRect(caja.x1, caja.y1, caja.x2 - caja.x1, caja.y2 - caja.y1);

@@ -1,14 +1,13 @@
 #pragma once
 
 #include "surface/superficie_salida.h"
-#include "ui/color_qt.h"
 
 #include <QPainter>
 
 namespace bosquel {
 
 /// A surface on a painter that smooths: what small pictures are made with. Its units are device pixels:
-/// strokes are one of them wide, and straight ones run along the middles of pixels. A curve too large or too
+/// strokes are one of them wide, and straight ones run along the middles of pixels. What is too large or too
 /// far away for a painter is left out, and so are texts. As long as it is drawn on, nobody else may change
 /// the painter's pen.
 class SuperficieQt final : public SuperficieSalida {

@@ -396,10 +396,19 @@ TEST(PinturaHoja, CadaClaseSaleComoSuDibujo) {
     }
 }
 
-TEST(PinturaHoja, UnTrozoPintadoDeNuevoNoCambiaNada) {
+TEST(PinturaHoja, UnTrozoPintadoDeNuevoNoCambiaNadaEnNingunaDensidad) {
     PlataformaMuda plataforma;
     Sesion sesion(plataforma, {});
     Dibujo& dibujo = sesion.dibujo;
+    sesion.cuadricula = {50, 4000, 4000};
+    for (int i = 1; i <= 3; ++i) {
+        Pared& pared = dibujo.Pared.crear(i);
+        pared.InicialX = 130;
+        pared.InicialY = 2500.0F + 300.0F * static_cast<float>(i);
+        asignar(pared.Angulo, 25.0 * (i - 1));
+        pared.Longitud = 4000;
+        DibujaPared(dibujo, i, false);
+    }
     poner(dibujo.MblMesa, 1, 20, 20, verdeAzulado);
     poner(dibujo.MblAsiento, 1, 60, 50, rojo);
     TextoLibre& texto = dibujo.TextoLibre.crear(1);
@@ -407,13 +416,25 @@ TEST(PinturaHoja, UnTrozoPintadoDeNuevoNoCambiaNada) {
     texto.Top = 60 * 15;
     texto.Text = "Salón";
     texto.Visible = true;
-    const QImage entera = hojaPintada(sesion);
-    QImage aTrozos = papel();
-    for (int y = 0; y < 300; y += 7)
-        for (int x = 0; x < 300; x += 13) {
-            pintarQuieto(aTrozos, enHoja, sesion, {x, y, 13, 7});
+    anunciarTodo(dibujo);
+    sesion.mapa.ponerAlDia(dibujo);
+    for (const double densidad : {1.0, 1.25, 1.5, 2.0}) {
+        const LugarHoja lugar{{}, densidad * escalaHoja};
+        QImage entera = papel();
+        pintarQuieto(entera, lugar, sesion, entera.rect());
+        QImage aTrozos = papel();
+        for (int y = 0; y < 300; y += 7)
+            for (int x = 0; x < 300; x += 13)
+                pintarQuieto(aTrozos, lugar, sesion, {x, y, 13, 7});
+        EXPECT_TRUE(aTrozos == entera) << densidad;
+        // And as a picture of its own, as what is dragged is put together.
+        for (int y = 0; y + 40 <= 300; y += 37) {
+            const QRect zona(3, y, 290, 40);
+            QImage suya = papel(zona.width(), zona.height());
+            pintarQuieto(suya, {zona.topLeft(), lugar.escala}, sesion, zona);
+            EXPECT_TRUE(suya == entera.copy(zona)) << densidad << " " << y;
         }
-    EXPECT_TRUE(aTrozos == entera);
+    }
 }
 
 TEST(PinturaHoja, LejosDeLaEsquinaDeUnaHojaEnormeSePintaLoMismo) {
@@ -443,7 +464,11 @@ TEST(PinturaHoja, LejosDeLaEsquinaDeUnaHojaEnormeSePintaLoMismo) {
         pintarEncima(imagen, {esquina, escalaHoja}, sesion);
         return imagen;
     };
-    EXPECT_EQ(pintada(lejos), pintada({}));
+    const QImage cerca = pintada({});
+    EXPECT_EQ(cerca.pixelColor(92, 52), QColor(255, 0, 0)) << "the machine";
+    EXPECT_EQ(cerca.pixelColor(80, 40), QColor(255, 0, 0)) << "the frame";
+    EXPECT_TRUE(tinta(cerca, 20, 20)) << "the table";
+    EXPECT_EQ(pintada(lejos), cerca);
 }
 
 TEST(SuperficieImagen, UnaCajaSinAnchoEsUnTrazo) {

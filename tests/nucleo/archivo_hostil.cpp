@@ -10,6 +10,7 @@
 #include "surface/medidora.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -252,6 +253,44 @@ TEST(ArchivoHostil, LoQueCasiEsUnaCabeceraOUnaClaveNoAtasca) {
     }
 }
 
+TEST(ArchivoHostil, UnNombreQueSeRepiteTrasUnaLineaEnormeNoAtasca) {
+    constexpr int muchas = 100'000;
+    const std::string enorme(1'000'000, 'x');
+    std::string texto = "[Cabecera]\nNumMesa=2\nOtra=" + enorme + "\n";
+    for (int i = 0; i < muchas; ++i)
+        texto += "Otra=\n";
+    texto += "[Mesa(1)] " + enorme + "\nLeft=9\n";
+    for (int i = 0; i < muchas; ++i)
+        texto += "[Mesa(1)]\n";
+    Banco banco;
+    banco.pon("enorme.bqr", texto);
+    banco.abre("enorme.bqr");
+    ASSERT_TRUE(banco.dibujo().MblMesa.existe(1));
+    EXPECT_EQ(banco.dibujo().MblMesa.en(1)->Left, 9.0F);
+}
+
+TEST(ArchivoHostil, NombresHechosParaConfundirseNoAtascan) {
+    // Eight letters twice, with the highest bit of some of them turned round in both eights.
+    const std::array<std::string, 2> bloques{"aaaaaaaaaaaaaaaa",
+                                             "\xE1"
+                                             "aaaaaaa\xE1"
+                                             "aaa\xE1"
+                                             "aaa"};
+    constexpr unsigned nombres = 1U << 15U;
+    std::string texto = "[Cabecera]\nNumMesa=2\n";
+    for (unsigned i = 0; i < nombres; ++i) {
+        texto += '[';
+        for (unsigned bit = 0; bit < 15; ++bit)
+            texto += bloques.at(i >> bit & 1U);
+        texto += "]\n";
+    }
+    Banco banco;
+    banco.pon("huellas.bqr", texto + "[Mesa(1)]\nLeft=9\n");
+    banco.abre("huellas.bqr");
+    ASSERT_TRUE(banco.dibujo().MblMesa.existe(1));
+    EXPECT_EQ(banco.dibujo().MblMesa.en(1)->Left, 9.0F);
+}
+
 TEST(ArchivoHostil, DeUnaClaveRepetidaCuentaLaPrimeraEnCualquierOrden) {
     Banco banco;
     abrir(banco, {"[Cabecera]", "NumMesa=2", "NumPared=2", "[Mesa(1)]", "Visible=Verdadero", "MESADIMX=11",
@@ -267,7 +306,7 @@ TEST(ArchivoHostil, DeUnaClaveRepetidaCuentaLaPrimeraEnCualquierOrden) {
     EXPECT_EQ(banco.dibujo().Pared.en(1)->Longitud, banco.dibujo().Pared.modelo().Longitud);
 }
 
-TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYTreintaYDosBytesMasPorNombre) {
+TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYSesentaYCuatroBytesMasPorNombre) {
     if (apoyo::memoriaSinLimite) GTEST_SKIP() << "the sanitizer takes room of its own";
     GTEST_FLAG_SET(death_test_style, "threadsafe");  // a new process, with no room left by other tests
     Banco banco;
@@ -280,7 +319,7 @@ TEST(ArchivoHostil, UnArchivoDeNombresDistintosOcupaLoSuyoYTreintaYDosBytesMasPo
     banco.pon("nombres.bqr", bytes);
     const auto abrirConPocaMemoria = [&] {
         constexpr std::size_t loDemas = 1'000'000;
-        apoyo::limitarMemoria(bytes.size() + 32 * nombres + loDemas);
+        apoyo::limitarMemoria(bytes.size() + 64 * nombres + loDemas);
         banco.abre("nombres.bqr");
         apoyo::terminar(banco.hoja().Width == 123.0F);
     };

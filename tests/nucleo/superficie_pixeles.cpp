@@ -97,7 +97,7 @@ TEST_F(EnPixeles, SusPixelesEstanParaQuienLosPinteUnoAUno) {
 }
 
 TEST(Recortar, UnaLineaConservaSuRumbo) {
-    const auto tramo = recortar({-1e6, -2e6 + 30}, {1e6, 2e6 + 30});
+    const auto tramo = recortar({-1e9, -2e9 + 30}, {1e9, 2e9 + 30});
     ASSERT_TRUE(tramo);
     EXPECT_EQ(tramo->y1, -Trama::lejos);
     EXPECT_EQ(tramo->y2, Trama::lejos);
@@ -118,7 +118,7 @@ TEST(Recortar, LoCercanoQuedaEnElPixelMasProximo) {
 }
 
 TEST(Recortar, DeLoQueNoSeAcercaNoQuedaNada) {
-    EXPECT_FALSE(recortar({1e6, 0}, {1e6, 10}));
-    EXPECT_FALSE(recortar({0, 1e6}, {10, 1e6}));
-    EXPECT_FALSE(recortar({-1e6, 0}, {0, -1e6}));
+    EXPECT_FALSE(recortar({1e9, 0}, {1e9, 10}));
+    EXPECT_FALSE(recortar({0, 1e9}, {10, 1e9}));
+    EXPECT_FALSE(recortar({-1e9, 0}, {0, -1e9}));
 }
