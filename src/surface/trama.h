@@ -24,7 +24,8 @@ ZonaPixeles entre(int x1, int y1, int x2, int y2);
 inline int pixelCercano(double coordenada) {
     // Above 0 a fraction is cut off downwards.
     constexpr int encima = 1 << 30;
-    return static_cast<int>(coordenada + encima + 0.5) - encima;
+    constexpr double medioMas = encima + 0.5;
+    return static_cast<int>(coordenada + medioMas) - encima;
 }
 
 /// A raster to draw on, in memory that belongs to somebody else. Nothing is smoothed: a pixel has the colour
