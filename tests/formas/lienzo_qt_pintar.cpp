@@ -4,8 +4,8 @@
 #include "formas/trazador.h"
 #include "furnishing/dibujar_elemento.h"
 #include "output/escala.h"
-#include "ui/lienzo_qt.h"
 #include "ui/letra.h"
+#include "ui/lienzo_qt.h"
 
 #include <QFontMetrics>
 #include <cmath>
