@@ -40,11 +40,6 @@ class Calcadora : public SuperficieSalida {
   public:
     void FillStyle(Relleno relleno) override { relleno_ = relleno; }
     void FillColor(Color color) override { colorRelleno_ = color; }
-    void CurrentX(double) override {}
-    void CurrentY(double) override {}
-    void ForeColor(Color) override {}
-    void FontSize(float) override {}
-    void Print(std::string_view) override {}
 
     const Calco& calco() const { return calco_; }
 

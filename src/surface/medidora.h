@@ -15,7 +15,6 @@ class Medidora : public SuperficieSalida {
     void FillColor(Color) override {}
     void CurrentX(double x) override { x_ = x; }
     void CurrentY(double y) override { y_ = y; }
-    void ForeColor(Color) override {}
     void FontSize(float puntos) override { puntos_ = puntos; }
     void Print(std::string_view texto) override;
     bool bastanLosExtremos() const override { return true; }

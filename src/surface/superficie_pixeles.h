@@ -12,8 +12,7 @@ struct LugarPixeles {
 };
 
 /// A surface on a raster: strokes are one pixel wide, whatever the scale, and nothing is smoothed. A position
-/// is the pixel whose middle comes nearest. A curve too large or too far away for a raster is left out. Texts
-/// are for those who have letters.
+/// is the pixel whose middle comes nearest. A curve too large or too far away for a raster is left out.
 class SuperficiePixeles : public SuperficieSalida {
   public:
     /// `escala` pixels to a surface unit; the surface's origin falls on `origen`.

@@ -52,13 +52,14 @@ class SuperficieSalida {
     virtual void FillStyle(Relleno relleno) = 0;
     virtual void FillColor(Color color) = 0;
 
-    virtual void CurrentX(double x) = 0;
-    virtual void CurrentY(double y) = 0;
-    virtual void ForeColor(Color color) = 0;
+    // A surface without letters of its own leaves texts out.
+    virtual void CurrentX(double /*x*/) {}
+    virtual void CurrentY(double /*y*/) {}
+    virtual void ForeColor(Color /*color*/) {}
     /// Points: a twentieth of the font's height in surface units.
-    virtual void FontSize(float puntos) = 0;
+    virtual void FontSize(float /*puntos*/) {}
     /// A text whose top left corner is (`CurrentX`, `CurrentY`), in `ForeColor` and `FontSize`.
-    virtual void Print(std::string_view texto) = 0;
+    virtual void Print(std::string_view /*texto*/) {}
 
     /// True where nothing counts but the extent of what is drawn.
     virtual bool bastanLosExtremos() const { return false; }

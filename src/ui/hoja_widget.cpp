@@ -2,7 +2,6 @@
 
 #include "ui/editor_texto.h"
 #include "ui/iconos.h"
-#include "ui/pintura_hoja.h"
 #include "ui/unidades.h"
 
 #include <QMouseEvent>

@@ -3,7 +3,6 @@
 #include "furnishing/dibujar_elemento.h"
 #include "openings/abertura.h"
 #include "openings/trazar_abertura.h"
-#include "ui/color_qt.h"
 #include "ui/superficie_imagen.h"
 #include "walls/pared.h"
 #include "walls/trazar_pared.h"

@@ -18,11 +18,6 @@ class SuperficieQt final : public SuperficieSalida {
 
     void FillStyle(Relleno relleno) override { relleno_ = relleno; }
     void FillColor(Color color) override { colorRelleno_ = color; }
-    void CurrentX(double) override {}
-    void CurrentY(double) override {}
-    void ForeColor(Color) override {}
-    void FontSize(float) override {}
-    void Print(std::string_view) override {}
 
   protected:
     void trazarLinea(double x1, double y1, double x2, double y2, Color color) override;

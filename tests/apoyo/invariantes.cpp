@@ -120,9 +120,7 @@ class Vigia : public SuperficieSalida {
     void FillColor(Color) override {}
     void CurrentX(double x) override { finitos({x}); }
     void CurrentY(double y) override { finitos({y}); }
-    void ForeColor(Color) override {}
     void FontSize(float puntos) override { finitos({puntos}); }
-    void Print(std::string_view) override {}
 
   protected:
     void trazarLinea(double x1, double y1, double x2, double y2, Color) override {

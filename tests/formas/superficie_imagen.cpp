@@ -64,11 +64,6 @@ class Sonda : public SuperficieSalida {
     }
     void FillStyle(Relleno) override {}
     void FillColor(Color) override {}
-    void CurrentX(double) override {}
-    void CurrentY(double) override {}
-    void ForeColor(Color) override {}
-    void FontSize(float) override {}
-    void Print(std::string_view) override {}
 
     std::vector<QPointF> puntos;
     QImage marca;  ///< the strokes, two pixels fat on either side

@@ -15,21 +15,11 @@ constexpr Trama::Pixel papel = 0xFFFFFFFF;
 /// A surface without letters on a square of paper, two pixels to a unit, the origin on (10, 10).
 class EnPixeles : public testing::Test {
   protected:
-    class Superficie final : public SuperficiePixeles {
-      public:
-        using SuperficiePixeles::SuperficiePixeles;
-        void CurrentX(double) override {}
-        void CurrentY(double) override {}
-        void ForeColor(Color) override {}
-        void FontSize(float) override {}
-        void Print(std::string_view) override {}
-    };
-
     Trama::Pixel en(int x, int y) const { return pixeles[static_cast<std::size_t>(y * lado + x)]; }
     auto cuantos(Trama::Pixel cual) const { return std::count(pixeles.begin(), pixeles.end(), cual); }
 
     std::vector<Trama::Pixel> pixeles = std::vector<Trama::Pixel>(lado * lado, papel);
-    Superficie hoja{Trama(pixeles.data(), lado, {0, 0, lado - 1, lado - 1}), 2, {10, 10}};
+    SuperficiePixeles hoja{Trama(pixeles.data(), lado, {0, 0, lado - 1, lado - 1}), 2, {10, 10}};
 };
 
 constexpr double sinFin = std::numeric_limits<double>::max();
